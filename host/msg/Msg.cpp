@@ -1,0 +1,88 @@
+#include "hostapi/msg/Msg.h"
+
+#include <cstdarg>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "hostapi/msg/ResultChannel.h"
+#include "msg/MsgCatalogue.h"
+
+namespace msg {
+namespace {
+
+const char* const kTagNames[] = {
+#define MSG_TAG(name) #name,
+#include "hostapi/msg/MsgTags.def"
+#undef MSG_TAG
+};
+static_assert(sizeof(kTagNames) / sizeof(kTagNames[0]) == MSG_TAG_COUNT,
+              "one name per tag");
+
+std::vector<ResultSink>& Sinks() {
+  static std::vector<ResultSink> sinks;
+  return sinks;
+}
+
+std::string FormatV(const char* format, va_list args) {
+  va_list copy;
+  va_copy(copy, args);
+  int length = std::vsnprintf(nullptr, 0, format, copy);
+  va_end(copy);
+  if (length <= 0) return std::string();
+  std::string text(static_cast<size_t>(length) + 1, '\0');
+  std::vsnprintf(text.data(), text.size(), format, args);
+  text.resize(static_cast<size_t>(length));
+  return text;
+}
+
+}  // namespace
+
+const char* TagName(MsgTag tag) {
+  if (tag < 0 || tag >= MSG_TAG_COUNT) return "";
+  return kTagNames[tag];
+}
+
+void PushResultSink(ResultSink sink) { Sinks().push_back(std::move(sink)); }
+
+void PopResultSink() {
+  if (!Sinks().empty()) Sinks().pop_back();
+}
+
+void WriteResult(std::string_view text) {
+  if (Sinks().empty()) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    std::fflush(stdout);
+    return;
+  }
+  Sinks().back()(text);
+}
+
+void Print_Result(const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  std::string text = FormatV(format, args);
+  va_end(args);
+  text.push_back('\n');
+  WriteResult(text);
+}
+
+void InsertEmptyLine() { WriteResult("\n"); }
+
+void ReportMsg(MsgTag tag, ...) {
+  const CatalogueEntry* entry = FindCatalogueEntry(tag);
+  std::string body;
+  if (entry) {
+    va_list args;
+    va_start(args, tag);
+    body = FormatV(entry->text, args);
+    va_end(args);
+  } else {
+    body = "message without catalogue text";
+  }
+  std::string line = std::string(SeverityWord(entry ? entry->severity : Severity::kError)) +
+                     ": " + body + " (" + TagName(tag) + ")\n";
+  WriteResult(line);
+}
+
+}  // namespace msg

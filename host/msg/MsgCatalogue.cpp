@@ -1,0 +1,34 @@
+#include "msg/MsgCatalogue.h"
+
+namespace msg {
+namespace {
+
+const CatalogueEntry kCatalogue[] = {
+    {COMMAND_001, Severity::kError, "%s: %s"},
+    {COMMAND_010, Severity::kError, "option '-%s' cannot be used together with option '-%s'."},
+    {COMMON_001, Severity::kWarning, "Cannot find object '%s' in design '%s'."},
+    {Report_001, Severity::kInfo, "%s: option '%s' is accepted and ignored by this tool."},
+    {Report_002, Severity::kWarning, "Cannot find port '%s' in design '%s'."},
+};
+
+}  // namespace
+
+const CatalogueEntry* FindCatalogueEntry(MsgTag tag) {
+  for (const CatalogueEntry& entry : kCatalogue)
+    if (entry.tag == tag) return &entry;
+  return nullptr;
+}
+
+const char* SeverityWord(Severity severity) {
+  switch (severity) {
+    case Severity::kInfo:
+      return "Information";
+    case Severity::kWarning:
+      return "Warning";
+    case Severity::kError:
+      return "Error";
+  }
+  return "Error";
+}
+
+}  // namespace msg
