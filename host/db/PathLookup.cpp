@@ -1,0 +1,73 @@
+// Full path names ("u_core/u_alu/U12/A") looked up from the current design.
+// Escaped names may hold "/" themselves, so each level first tries the
+// whole remaining path as one local name, then every split at a "/".
+#include "db/Netlist.h"
+#include "hostapi/cdm/Cell.h"
+#include "hostapi/cdm/DbManager.h"
+#include "hostapi/cdm/Design.h"
+#include "hostapi/cdm/Net.h"
+#include "hostapi/cdm/Pin.h"
+#include "hostapi/cdm/Root.h"
+
+namespace cdm {
+namespace {
+
+template <class T, class FindLocal>
+T* FindByPath(Netlist* netlist, const std::string& path, FindLocal find_local) {
+  if (!netlist || path.empty()) return nullptr;
+  if (T* found = find_local(netlist, path)) return found;
+  for (size_t slash = path.find('/'); slash != std::string::npos;
+       slash = path.find('/', slash + 1)) {
+    Cell* cell = netlist->FindCell(path.substr(0, slash));
+    if (!cell || !cell->GetChildNetlist()) continue;
+    if (T* found = FindByPath<T>(cell->GetChildNetlist(), path.substr(slash + 1), find_local))
+      return found;
+  }
+  return nullptr;
+}
+
+Netlist* TopNetlist() {
+  Design* design = DbManager::GetCurrentDesign();
+  return design ? design->GetNetlist() : nullptr;
+}
+
+}  // namespace
+
+Cell* DbManager::FindCell(const std::string& name) {
+  return FindByPath<Cell>(TopNetlist(), name, [](Netlist* netlist, const std::string& local) {
+    return netlist->FindCell(local);
+  });
+}
+
+Net* DbManager::FindNet(const std::string& name) {
+  return FindByPath<Net>(TopNetlist(), name, [](Netlist* netlist, const std::string& local) {
+    Net* net = netlist->FindNet(local);
+    return net && !netlist->IsTieNet(net) ? net : nullptr;
+  });
+}
+
+Pin* DbManager::FindPin(const std::string& name) {
+  Netlist* top = TopNetlist();
+  if (!top) return nullptr;
+  // A top port first, then "cell path/pin name".
+  if (Design* design = top->GetDesign(); Pin* port_pin = design->FindPin(name)) return port_pin;
+  size_t slash = name.rfind('/');
+  if (slash == std::string::npos) return nullptr;
+  Cell* cell = FindCell(name.substr(0, slash));
+  return cell ? cell->FindPin(name.substr(slash + 1)) : nullptr;
+}
+
+Design* Root::FindDesign(const std::string& name) const {
+  for (Design* design : designs_)
+    if (design->Name() == name) return design;
+  return nullptr;
+}
+
+Design* Root::AddDesign(std::unique_ptr<Design> design) {
+  Design* added = design.get();
+  designs_.push_back(added);
+  Own(std::move(design));
+  return added;
+}
+
+}  // namespace cdm

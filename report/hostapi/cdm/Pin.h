@@ -1,0 +1,96 @@
+// A connection point: a pin of a cell, or the pin that stands for a port of
+// a design inside that design's netlist.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "hostapi/cdm/Object.h"
+#include "hostapi/cdm/Selectors.h"
+
+namespace cdm {
+
+class Cell;
+class Net;
+class Netlist;
+class Port;
+
+class Pin : public Object {
+ public:
+  Pin() : Object(nullptr) {}
+
+  // The cell's full name, "/", and the port name; a port pin prints as the
+  // hierarchical pin of the instance it stands in (or the bare port name at
+  // the top).
+  std::string GetFullName() const override;
+
+  Net* GetNet() const { return net_; }
+  Cell* GetCell() const { return cell_; }  // null for a port pin
+  Port* GetPort() const { return port_; }
+  Netlist* GetNetlist() const;                         // the netlist the pin belongs to
+  uint32_t GetVertexId() const { return vertex_id_; }  // 0: not elaborated
+  uint8_t GetDirection() const;                        // of the port
+
+  // Stands for a port of the current (top) design.
+  bool IsTopPortPin() const { return (flags_ & kTopPort) != 0; }
+  // Stands for a port of any design, inside that design's netlist.
+  bool IsPortPin() const { return (flags_ & kPortPin) != 0; }
+  // Drives its net at its own level of hierarchy.
+  bool IsNetDriver() const { return (flags_ & kDriver) != 0; }
+  // A pin of a hierarchical cell, or a port pin below the top.
+  bool IsHierarchicalPin() const { return (flags_ & kHierarchical) != 0; }
+  // A load pin: not a driver (inout pins are both).
+  bool IsNetLoad() const { return (flags_ & kLoad) != 0; }
+
+  // Pins one net away: drivers (fan-in) or loads (fan-out) of this pin's
+  // net, this pin left out. Mode 0 stays at the net's level, mode 1 goes
+  // through hierarchy to leaf pins and top port pins.
+  void GetFaninPins(std::vector<const Pin*>& pins, HierarchyMode mode) const;
+  void GetFanoutPins(std::vector<const Pin*>& pins, HierarchyMode mode) const;
+  void GetFaninPins(std::vector<Pin*>& pins, HierarchyMode mode) const;
+  void GetFanoutPins(std::vector<Pin*>& pins, HierarchyMode mode) const;
+
+  // The (flat) driver of this pin's net; the pin itself when it drives.
+  Pin* GetCurrentDriverPin() const;
+  // For an input pin of a combinational library cell: the first output pin
+  // it reaches through the cell. Null at a sequential cell or any other end.
+  // `through_sequential` lets the walk pass sequential cells.
+  Pin* GetInputOutputPin(bool through_sequential) const;
+  // For an output pin of a combinational library cell: the input pins that
+  // reach it. Empty at a sequential cell or any other end.
+  std::vector<Pin*> GetOutputInputPins(bool through_sequential) const;
+
+  // The library pin capacitance (SI farads); 0 for pins without one.
+  float Capacitance(const RiseFall* edge, const MinMax* minmax) const;
+  // The net whose wire figures belong to this pin: its own net.
+  Net* GetBackwardConn() const { return net_; }
+  // Tied to logic 0 or 1.
+  bool IsConst() const;
+  // 0 or 1 for a pin on a constant net, -1 otherwise.
+  int GetConstValue() const;
+
+  // Building (the netlist builder and linker only).
+  enum Flag : uint8_t {
+    kTopPort = 1,
+    kPortPin = 2,
+    kDriver = 4,
+    kLoad = 8,
+    kHierarchical = 16,
+  };
+  void Init(Port* port, Cell* cell, Netlist* netlist, uint8_t flags);
+  void SetNet(Net* net) { net_ = net; }
+  void SetFlags(uint8_t flags) { flags_ = flags; }
+  uint8_t Flags() const { return flags_; }
+  void SetVertexId(uint32_t id) { vertex_id_ = id; }
+
+ private:
+  Net* net_ = nullptr;
+  Cell* cell_ = nullptr;
+  Port* port_ = nullptr;
+  Netlist* netlist_ = nullptr;  // set for port pins; cell pins ask their cell
+  uint32_t vertex_id_ = 0;
+  uint8_t flags_ = 0;
+};
+
+}  // namespace cdm
