@@ -113,7 +113,13 @@ std::unique_ptr<Netlist> Netlist::CloneFor(Cell* instance) const {
     }
   }
   copy->source_ = source_;
+  copy->linked_ = linked_;
   return copy;
+}
+
+Netlist* Netlist::AddClone(std::unique_ptr<Netlist> clone) {
+  clones_.push_back(std::move(clone));
+  return clones_.back().get();
 }
 
 }  // namespace cdm

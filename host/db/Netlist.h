@@ -71,6 +71,13 @@ class Netlist {
   // A copy of this netlist (cells, nets, pins, connections) for `instance`.
   std::unique_ptr<Netlist> CloneFor(Cell* instance) const;
 
+  // Copies elaborated below this netlist when it is the top; owned here.
+  Netlist* AddClone(std::unique_ptr<Netlist> clone);
+  void ClearClones() { clones_.clear(); }
+
+  bool IsLinked() const { return linked_; }
+  void SetLinked(bool linked) { linked_ = linked; }
+
  private:
   Design* design_;
   Cell* instance_;
@@ -83,6 +90,8 @@ class Netlist {
   uint32_t port_pin_count_ = 0;
   std::vector<std::unique_ptr<Port>> stub_ports_;
   ModuleSource source_;
+  std::vector<std::unique_ptr<Netlist>> clones_;
+  bool linked_ = false;
 };
 
 }  // namespace cdm

@@ -1,6 +1,8 @@
 // Full path names ("u_core/u_alu/U12/A") looked up from the current design.
 // Escaped names may hold "/" themselves, so each level first tries the
 // whole remaining path as one local name, then every split at a "/".
+#include "db/PathLookup.h"
+
 #include "db/Netlist.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
@@ -26,35 +28,43 @@ T* FindByPath(Netlist* netlist, const std::string& path, FindLocal find_local) {
   return nullptr;
 }
 
-Netlist* TopNetlist() {
-  Design* design = DbManager::GetCurrentDesign();
-  return design ? design->GetNetlist() : nullptr;
-}
-
 }  // namespace
 
-Cell* DbManager::FindCell(const std::string& name) {
-  return FindByPath<Cell>(TopNetlist(), name, [](Netlist* netlist, const std::string& local) {
+Cell* FindCellByPath(const Design* top, const std::string& name) {
+  if (!top) return nullptr;
+  return FindByPath<Cell>(top->GetNetlist(), name, [](Netlist* netlist, const std::string& local) {
     return netlist->FindCell(local);
   });
 }
 
-Net* DbManager::FindNet(const std::string& name) {
-  return FindByPath<Net>(TopNetlist(), name, [](Netlist* netlist, const std::string& local) {
+Net* FindNetByPath(const Design* top, const std::string& name) {
+  if (!top) return nullptr;
+  return FindByPath<Net>(top->GetNetlist(), name, [](Netlist* netlist, const std::string& local) {
     Net* net = netlist->FindNet(local);
     return net && !netlist->IsTieNet(net) ? net : nullptr;
   });
 }
 
-Pin* DbManager::FindPin(const std::string& name) {
-  Netlist* top = TopNetlist();
+Pin* FindPinByPath(const Design* top, const std::string& name) {
   if (!top) return nullptr;
   // A top port first, then "cell path/pin name".
-  if (Design* design = top->GetDesign(); Pin* port_pin = design->FindPin(name)) return port_pin;
+  if (Pin* port_pin = top->FindPin(name)) return port_pin;
   size_t slash = name.rfind('/');
   if (slash == std::string::npos) return nullptr;
-  Cell* cell = FindCell(name.substr(0, slash));
+  Cell* cell = FindCellByPath(top, name.substr(0, slash));
   return cell ? cell->FindPin(name.substr(slash + 1)) : nullptr;
+}
+
+Cell* DbManager::FindCell(const std::string& name) {
+  return FindCellByPath(GetCurrentDesign(), name);
+}
+
+Net* DbManager::FindNet(const std::string& name) {
+  return FindNetByPath(GetCurrentDesign(), name);
+}
+
+Pin* DbManager::FindPin(const std::string& name) {
+  return FindPinByPath(GetCurrentDesign(), name);
 }
 
 Design* Root::FindDesign(const std::string& name) const {

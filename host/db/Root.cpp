@@ -16,10 +16,16 @@ Root* DbManager::GetRoot() {
   return &root;
 }
 
-Design* DbManager::GetCurrentDesign() { return GetRoot()->GetCurrentDesign(); }
+Design* DbManager::GetCurrentDesign() {
+  return GetRoot()->GetCurrentDesign();
+}
 
-LibertyLib* DbManager::GetDefaultLiberty() { return GetRoot()->GetDefaultLiberty(); }
+LibertyLib* DbManager::GetDefaultLiberty() {
+  return GetRoot()->GetDefaultLiberty();
+}
 
-LibertyLib* DbManager::GetGenericLib() { return GetRoot()->GetGenericLib(); }
+LibertyLib* DbManager::GetGenericLib() {
+  return GetRoot()->GetGenericLib();
+}
 
 }  // namespace cdm

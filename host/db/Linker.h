@@ -1,0 +1,31 @@
+// link_design and current_design: binding every instance to what it
+// instantiates, and elaborating the hierarchy below the current design.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace cdm {
+
+class Design;
+class Root;
+
+// The module no other module instantiates; null with `error` set when
+// there is none or more than one.
+Design* FindTopDesign(Root* root, std::string& error);
+
+// Binds every cell of `top` and of the designs below it, connects pins and
+// nets, and makes `top` the current design. False with `error` on a
+// recursive instantiation (nothing changes then). Unresolved references and
+// connection problems are `warnings`, one line each.
+bool LinkDesign(Root* root, Design* top, std::vector<std::string>& warnings, std::string& error);
+
+// Lays the hierarchy out below `top`: each hierarchical cell gets a netlist
+// of its own (the definition for the first instance of a design, a copy for
+// each further one), pins get their flags and vertex identifiers.
+void ElaborateHierarchy(Root* root, Design* top);
+
+// Whether `design` has been linked (its cells are bound).
+bool IsLinked(const Design* design);
+
+}  // namespace cdm

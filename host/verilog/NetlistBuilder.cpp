@@ -1,0 +1,369 @@
+#include "verilog/NetlistBuilder.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "db/Netlist.h"
+#include "hostapi/cdm/Design.h"
+#include "hostapi/cdm/Root.h"
+
+namespace verilog {
+namespace {
+
+// Attribute names that mean something to the database.
+cdm::AttrId KnownAttribute(std::string_view name) {
+  if (name == "dont_touch") return cdm::AttrId::kDontTouch;
+  if (name == "size_only") return cdm::AttrId::kSizeOnly;
+  if (name == "keep") return cdm::AttrId::kKeep;
+  if (name == "arithmetic_operator" || name == "operator" || name == "synthetic_operator")
+    return cdm::AttrId::kArithmeticOperator;
+  if (name == "black_box" || name == "blackbox") return cdm::AttrId::kBlackBox;
+  return cdm::AttrId::kUser;
+}
+
+void SetAttributes(cdm::Object& object, const std::vector<AttrAst>& attrs) {
+  for (const AttrAst& attr : attrs) {
+    cdm::Attribute record;
+    record.id = KnownAttribute(attr.name);
+    record.name = std::string(attr.name);
+    record.text = attr.value;
+    if (attr.is_number) {
+      record.kind = cdm::AttrKind::kInt;
+      record.int_value = std::strtoll(attr.value.c_str(), nullptr, 10);
+    } else {
+      record.kind = attr.value.empty() ? cdm::AttrKind::kBool : cdm::AttrKind::kString;
+      record.int_value = attr.value.empty() ? 1 : 0;
+    }
+    object.SetAttribute(std::move(record));
+  }
+}
+
+const char* DirectionWord(int direction) {
+  return direction == 0 ? "input" : direction == 1 ? "output" : "inout";
+}
+
+std::string BaseName(const std::string& path) {
+  size_t slash = path.rfind('/');
+  return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+}  // namespace
+
+NetlistBuilder::NetlistBuilder(cdm::Root* root, std::string file_name)
+    : root_(root), file_name_(std::move(file_name)) {
+  owner_ = std::make_shared<cdm::Object>(root_->Intern(BaseName(file_name_)));
+}
+
+NetlistBuilder::~NetlistBuilder() = default;
+
+bool NetlistBuilder::Fail(std::string message) {
+  error_ = std::move(message);
+  return false;
+}
+
+NetlistBuilder::Symbol* NetlistBuilder::FindSymbol(std::string_view name) {
+  auto found = symbol_index_.find(name);
+  return found == symbol_index_.end() ? nullptr : &symbols_[found->second];
+}
+
+uint32_t NetlistBuilder::Width(const Symbol& symbol) const {
+  if (!symbol.range.present) return 1;
+  return static_cast<uint32_t>(std::abs(symbol.range.msb - symbol.range.lsb)) + 1;
+}
+
+NetlistBuilder::Symbol& NetlistBuilder::AddSymbol(std::string_view name, const Range& range,
+                                                  uint32_t line) {
+  Symbol symbol;
+  symbol.name = name;
+  symbol.range = range;
+  symbol.line = line;
+  symbol.first_bit = static_cast<uint32_t>(bit_symbol_.size());
+  uint32_t index = static_cast<uint32_t>(symbols_.size());
+  uint32_t width = Width(symbol);
+  for (uint32_t i = 0; i < width; ++i) {
+    bit_symbol_.push_back(index);
+    parent_.push_back(static_cast<int32_t>(bit_symbol_.size() - 1));
+    tie_.push_back(-1);
+  }
+  symbols_.push_back(symbol);
+  symbol_index_.emplace(name, index);
+  return symbols_.back();
+}
+
+bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
+  std::string name(header.name);
+  if (root_->FindDesign(name)) return Fail("module '" + name + "' is already loaded");
+  for (const auto& done : done_)
+    if (done->Name() == name) return Fail("module '" + name + "' is defined twice");
+  design_ = std::make_unique<cdm::Design>(root_->Intern(name), owner_);
+  cdm::Attribute line;
+  line.id = cdm::AttrId::kSourceLine;
+  line.kind = cdm::AttrKind::kInt;
+  line.int_value = header.line;
+  design_->SetAttribute(line);
+  SetAttributes(*design_, header.attrs);
+  design_->GetNetlist()->Source().file = file_name_;
+  design_->GetNetlist()->Source().line = header.line;
+  header_ports_ = header.ports;
+  symbols_.clear();
+  symbol_index_.clear();
+  bit_symbol_.clear();
+  parent_.clear();
+  tie_.clear();
+  for (size_t i = 0; i < header_ports_.size(); ++i)
+    for (size_t j = 0; j < i; ++j)
+      if (header_ports_[i] == header_ports_[j])
+        return Fail("port '" + std::string(header_ports_[i]) + "' is listed twice");
+  for (const DeclAst& decl : header.ansi_decls)
+    if (!Declare(decl, {})) return false;
+  return true;
+}
+
+bool NetlistBuilder::Declare(const DeclAst& decl, const std::vector<AttrAst>&) {
+  int direction = decl.kind == DeclKind::kInput    ? 0
+                  : decl.kind == DeclKind::kOutput ? 1
+                  : decl.kind == DeclKind::kInout  ? 2
+                                                   : -1;
+  for (std::string_view name : decl.names) {
+    Symbol* symbol = FindSymbol(name);
+    if (!symbol) {
+      symbol = &AddSymbol(name, decl.range, decl.line);
+    } else if (!symbol->declared) {
+      if (decl.range.present)
+        return Fail("'" + std::string(name) +
+                    "' is declared as a vector after its use as a scalar");
+    } else {
+      // A port may be declared once with its direction and once as a net.
+      bool same_range = symbol->range.present == decl.range.present &&
+                        (!decl.range.present || (symbol->range.msb == decl.range.msb &&
+                                                 symbol->range.lsb == decl.range.lsb));
+      bool pair = (direction >= 0) != (symbol->direction >= 0) && (direction >= 0 || !symbol->wire);
+      if (!pair) return Fail("'" + std::string(name) + "' is declared twice");
+      if (!same_range)
+        return Fail("'" + std::string(name) + "' is declared with two different ranges");
+    }
+    symbol->declared = true;
+    if (direction >= 0)
+      symbol->direction = static_cast<int8_t>(direction);
+    else
+      symbol->wire = true;
+  }
+  return true;
+}
+
+bool NetlistBuilder::SymbolBit(const Symbol& symbol, int index, uint32_t line, int32_t& bit) {
+  (void)line;
+  const Range& range = symbol.range;
+  if (!range.present)
+    return Fail("'" + std::string(symbol.name) + "' is a scalar and has no bit " +
+                std::to_string(index));
+  int low = std::min(range.msb, range.lsb), high = std::max(range.msb, range.lsb);
+  if (index < low || index > high)
+    return Fail("bit " + std::to_string(index) + " is outside '" + std::string(symbol.name) + "[" +
+                std::to_string(range.msb) + ":" + std::to_string(range.lsb) + "]'");
+  int offset = range.msb >= range.lsb ? range.msb - index : index - range.msb;
+  bit = static_cast<int32_t>(symbol.first_bit) + offset;
+  return true;
+}
+
+bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
+  switch (expr.kind) {
+    case Expr::kConstant:
+      for (char c : expr.bits)
+        bits.push_back(c == '0' ? cdm::kBitConst0 : c == '1' ? cdm::kBitConst1 : cdm::kBitOpen);
+      return true;
+    case Expr::kConcat:
+      for (const Expr& item : expr.items)
+        if (!ExprBits(item, bits)) return false;
+      return true;
+    case Expr::kName: {
+      Symbol* symbol = FindSymbol(expr.name);
+      if (!symbol) symbol = &AddSymbol(expr.name, Range(), expr.line);  // implicit net
+      uint32_t width = Width(*symbol);
+      for (uint32_t i = 0; i < width; ++i)
+        bits.push_back(static_cast<int32_t>(symbol->first_bit + i));
+      return true;
+    }
+    case Expr::kBitSelect:
+    case Expr::kPartSelect: {
+      const Symbol* symbol = FindSymbol(expr.name);
+      if (!symbol) return Fail("unknown net '" + std::string(expr.name) + "'");
+      int from = expr.kind == Expr::kBitSelect ? expr.index : expr.msb;
+      int to = expr.kind == Expr::kBitSelect ? expr.index : expr.lsb;
+      int step = from <= to ? 1 : -1;
+      for (int index = from;; index += step) {
+        int32_t bit = 0;
+        if (!SymbolBit(*symbol, index, expr.line, bit)) return false;
+        bits.push_back(bit);
+        if (index == to) break;
+      }
+      return true;
+    }
+    case Expr::kNone:
+      break;
+  }
+  return Fail("empty expression");
+}
+
+bool NetlistBuilder::Instance(const InstanceAst& inst) {
+  cdm::Netlist* netlist = design_->GetNetlist();
+  const std::string* name = root_->Intern(inst.name);
+  if (netlist->FindCell(*name))
+    return Fail("instance '" + *name + "' is defined twice in module '" + design_->Name() + "'");
+  cdm::Cell* cell = netlist->AddCell(name, root_->Intern(inst.ref));
+  if (!inst.attrs.empty()) SetAttributes(*cell, inst.attrs);
+  cdm::ModuleSource& source = netlist->Source();
+  cdm::InstanceSource record;
+  record.first_conn = static_cast<uint32_t>(source.conns.size());
+  record.conn_count = static_cast<uint32_t>(inst.conns.size());
+  record.line = inst.line;
+  for (uint32_t i = 0; i < inst.conns.size(); ++i) {
+    const ConnAst& conn = inst.conns[i];
+    cdm::ConnSource out;
+    if (!conn.port.empty()) {
+      out.port = root_->Intern(conn.port);
+      for (uint32_t j = record.first_conn; j < source.conns.size(); ++j)
+        if (source.conns[j].port == out.port)
+          return Fail("port '" + *out.port + "' of instance '" + *name + "' is connected twice");
+    }
+    out.position = i;
+    out.first_bit = static_cast<uint32_t>(source.bits.size());
+    if (!conn.empty && !ExprBits(conn.expr, source.bits)) return false;
+    out.bit_count = static_cast<uint32_t>(source.bits.size()) - out.first_bit;
+    source.conns.push_back(out);
+  }
+  source.instances.push_back(record);
+  return true;
+}
+
+int32_t NetlistBuilder::FindRoot(int32_t bit) {
+  while (parent_[bit] != bit) {
+    parent_[bit] = parent_[parent_[bit]];
+    bit = parent_[bit];
+  }
+  return bit;
+}
+
+bool NetlistBuilder::Assign(const AssignAst& assign) {
+  scratch_lhs_.clear();
+  scratch_rhs_.clear();
+  if (!ExprBits(assign.lhs, scratch_lhs_) || !ExprBits(assign.rhs, scratch_rhs_)) return false;
+  // Widths meet at the least significant bit; a short right side is
+  // extended with zeros.
+  size_t lhs_size = scratch_lhs_.size(), rhs_size = scratch_rhs_.size();
+  for (size_t k = 0; k < lhs_size; ++k) {
+    int32_t lhs = scratch_lhs_[lhs_size - 1 - k];
+    int32_t rhs = k < rhs_size ? scratch_rhs_[rhs_size - 1 - k] : cdm::kBitConst0;
+    if (lhs < 0) return Fail("cannot assign to a constant");
+    if (rhs == cdm::kBitOpen) continue;
+    if (rhs < 0) {
+      int8_t value = rhs == cdm::kBitConst1 ? 1 : 0;
+      if (tie_[lhs] >= 0 && tie_[lhs] != value)
+        return Fail("net '" + BitName(lhs) + "' is tied to both 0 and 1");
+      tie_[lhs] = value;
+      continue;
+    }
+    int32_t a = FindRoot(lhs), b = FindRoot(rhs);
+    if (a != b) parent_[std::max(a, b)] = std::min(a, b);
+  }
+  return true;
+}
+
+std::string NetlistBuilder::BitName(uint32_t bit) const {
+  const Symbol& symbol = symbols_[bit_symbol_[bit]];
+  if (!symbol.range.present) return std::string(symbol.name);
+  int offset = static_cast<int>(bit - symbol.first_bit);
+  int index =
+      symbol.range.msb >= symbol.range.lsb ? symbol.range.msb - offset : symbol.range.msb + offset;
+  return std::string(symbol.name) + "[" + std::to_string(index) + "]";
+}
+
+bool NetlistBuilder::FinishPorts(uint32_t line) {
+  (void)line;
+  for (const Symbol& symbol : symbols_) {
+    if (symbol.direction < 0) continue;
+    bool listed = false;
+    for (std::string_view port : header_ports_) listed = listed || port == symbol.name;
+    if (!listed)
+      return Fail("'" + std::string(symbol.name) + "' is declared " +
+                  DirectionWord(symbol.direction) + " but is not in the port list of module '" +
+                  design_->Name() + "'");
+  }
+  for (std::string_view name : header_ports_) {
+    Symbol* symbol = FindSymbol(name);
+    if (!symbol || symbol->direction < 0)
+      return Fail("port '" + std::string(name) + "' of module '" + design_->Name() +
+                  "' has no direction");
+    uint8_t direction = static_cast<uint8_t>(symbol->direction);
+    cdm::DesignPortBus* bus = nullptr;
+    if (symbol->range.present)
+      bus = design_->AddPortBus(std::make_unique<cdm::DesignPortBus>(
+          root_->Intern(name), direction, symbol->range.msb, symbol->range.lsb));
+    for (uint32_t i = 0; i < Width(*symbol); ++i) {
+      uint32_t bit = symbol->first_bit + i;
+      auto port = std::make_unique<cdm::Port>(root_->Intern(BitName(bit)), direction);
+      port->SetBus(bus);
+      design_->AddPort(std::move(port));
+      design_->GetNetlist()->Source().port_nets.push_back(static_cast<int32_t>(bit));
+    }
+  }
+  return true;
+}
+
+bool NetlistBuilder::FinishNets() {
+  cdm::Netlist* netlist = design_->GetNetlist();
+  size_t count = bit_symbol_.size();
+  std::vector<int32_t> preferred(count, -1), class_tie(count, -1), net_of(count, -1);
+  for (uint32_t bit = 0; bit < count; ++bit) {
+    int32_t root = FindRoot(static_cast<int32_t>(bit));
+    bool is_port = symbols_[bit_symbol_[bit]].direction >= 0;
+    int32_t& pick = preferred[root];
+    if (pick < 0 || (is_port && symbols_[bit_symbol_[pick]].direction < 0))
+      pick = static_cast<int32_t>(bit);
+    if (tie_[bit] >= 0) {
+      if (class_tie[root] >= 0 && class_tie[root] != tie_[bit])
+        return Fail("net '" + BitName(bit) + "' is tied to both 0 and 1");
+      class_tie[root] = tie_[bit];
+    }
+  }
+  std::vector<int32_t> bit_net(count, -1);
+  int32_t next_net = 0;
+  for (uint32_t bit = 0; bit < count; ++bit) {
+    int32_t root = FindRoot(static_cast<int32_t>(bit));
+    if (net_of[root] < 0) {
+      cdm::Net* net = netlist->AddNet(root_->Intern(BitName(preferred[root])));
+      if (class_tie[root] >= 0) net->SetConstValue(class_tie[root]);
+      net_of[root] = next_net++;
+    }
+    bit_net[bit] = net_of[root];
+    if (static_cast<int32_t>(bit) != preferred[root])
+      netlist->AddNetAlias(root_->Intern(BitName(bit)), &netlist->Nets()[net_of[root]]);
+  }
+  cdm::ModuleSource& source = netlist->Source();
+  for (int32_t& bit : source.bits)
+    if (bit >= 0) bit = bit_net[bit];
+  for (int32_t& bit : source.port_nets) bit = bit_net[bit];
+  for (const Symbol& symbol : symbols_)
+    if (symbol.range.present && symbol.direction < 0)
+      design_->AddNetBus(std::make_unique<cdm::DesignNetBus>(root_->Intern(symbol.name),
+                                                             symbol.range.msb, symbol.range.lsb));
+  return true;
+}
+
+bool NetlistBuilder::EndModule(uint32_t line) {
+  if (!FinishPorts(line) || !FinishNets()) return false;
+  done_.push_back(std::move(design_));
+  return true;
+}
+
+std::vector<std::string> NetlistBuilder::Commit() {
+  std::vector<std::string> names;
+  for (auto& design : done_) {
+    names.push_back(design->Name());
+    root_->AddDesign(std::move(design));
+  }
+  done_.clear();
+  return names;
+}
+
+}  // namespace verilog

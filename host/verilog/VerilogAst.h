@@ -1,0 +1,86 @@
+// The statements of a structural netlist as the parser hands them to the
+// builder, one at a time: views into the source buffer plus line numbers.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace verilog {
+
+struct Range {
+  bool present = false;
+  int msb = 0;
+  int lsb = 0;
+};
+
+// A net expression of a connection or an assign.
+struct Expr {
+  enum Kind : uint8_t { kNone, kName, kBitSelect, kPartSelect, kConstant, kConcat };
+  Kind kind = kNone;
+  std::string_view name;
+  int index = 0;            // bit select
+  int msb = 0, lsb = 0;     // part select
+  std::string bits;         // constant: '0' '1' 'x' 'z', most significant first
+  std::vector<Expr> items;  // concatenation, replications expanded
+  uint32_t line = 0;
+};
+
+struct AttrAst {
+  std::string_view name;
+  std::string value;  // empty when the attribute has no value
+  bool is_number = false;
+};
+
+enum class DeclKind : uint8_t { kInput, kOutput, kInout, kWire };
+
+struct DeclAst {
+  DeclKind kind = DeclKind::kWire;
+  Range range;
+  std::vector<std::string_view> names;
+  uint32_t line = 0;
+};
+
+struct ModuleHeaderAst {
+  std::string_view name;
+  uint32_t line = 0;
+  std::vector<AttrAst> attrs;
+  std::vector<std::string_view> ports;  // in header order
+  std::vector<DeclAst> ansi_decls;      // ANSI style: declarations in the header
+};
+
+struct ConnAst {
+  std::string_view port;  // empty for a connection by position
+  bool empty = false;     // ".A()" or a hole in an ordered list
+  Expr expr;
+};
+
+struct InstanceAst {
+  std::string_view ref;
+  std::string_view name;
+  std::vector<ConnAst> conns;
+  std::vector<AttrAst> attrs;
+  uint32_t line = 0;
+};
+
+struct AssignAst {
+  Expr lhs;
+  Expr rhs;
+  uint32_t line = 0;
+};
+
+// Receives the statements in file order. A false return stops the parse;
+// the receiver's Error() then says why.
+class StatementSink {
+ public:
+  virtual ~StatementSink() = default;
+  virtual const std::string& Error() const = 0;
+  virtual bool BeginModule(const ModuleHeaderAst& header) = 0;
+  virtual bool Declare(const DeclAst& decl, const std::vector<AttrAst>& attrs) = 0;
+  virtual bool Instance(const InstanceAst& instance) = 0;
+  virtual bool Assign(const AssignAst& assign) = 0;
+  virtual bool EndModule(uint32_t line) = 0;
+};
+
+}  // namespace verilog

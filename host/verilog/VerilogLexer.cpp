@@ -1,0 +1,159 @@
+#include "verilog/VerilogLexer.h"
+
+#include <cctype>
+
+namespace verilog {
+namespace {
+
+bool IsIdentStart(char c) {
+  return std::isalpha(static_cast<unsigned char>(c)) || c == '_';
+}
+bool IsIdentChar(char c) {
+  return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '$';
+}
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f' || c == '\v';
+}
+bool IsDigitOfBase(char c) {
+  return std::isxdigit(static_cast<unsigned char>(c)) || c == '_' || c == 'x' || c == 'X' ||
+         c == 'z' || c == 'Z' || c == '?';
+}
+
+}  // namespace
+
+const Token& VerilogLexer::Peek() {
+  if (!peeked_) {
+    peek_ = Scan();
+    peeked_ = true;
+  }
+  return peek_;
+}
+
+Token VerilogLexer::Next() {
+  if (peeked_) {
+    peeked_ = false;
+    return peek_;
+  }
+  return Scan();
+}
+
+bool VerilogLexer::SkipBlanksAndComments(Token& error) {
+  const size_t size = buffer_.size();
+  while (pos_ < size) {
+    char c = buffer_[pos_];
+    if (c == '\n') {
+      ++line_;
+      ++pos_;
+    } else if (IsBlank(c)) {
+      ++pos_;
+    } else if (c == '/' && pos_ + 1 < size && buffer_[pos_ + 1] == '/') {
+      while (pos_ < size && buffer_[pos_] != '\n') ++pos_;
+    } else if (c == '/' && pos_ + 1 < size && buffer_[pos_ + 1] == '*') {
+      uint32_t start_line = line_;
+      pos_ += 2;
+      while (pos_ + 1 < size && !(buffer_[pos_] == '*' && buffer_[pos_ + 1] == '/')) {
+        if (buffer_[pos_] == '\n') ++line_;
+        ++pos_;
+      }
+      if (pos_ + 1 >= size) {
+        error = Token{TokenKind::kError, false, "unterminated comment", start_line};
+        pos_ = size;
+        return false;
+      }
+      pos_ += 2;
+    } else if (c == '`') {
+      // Compiler directives (`timescale, `celldefine, ...) carry nothing a
+      // netlist needs; a `define would, and is refused by the parser.
+      size_t start = pos_;
+      ++pos_;
+      while (pos_ < size && IsIdentChar(buffer_[pos_])) ++pos_;
+      std::string_view word = buffer_.substr(start + 1, pos_ - start - 1);
+      if (word == "define" || word == "include" || word == "ifdef" || word == "ifndef") {
+        error = Token{TokenKind::kError, false,
+                      "unsupported compiler directive (macros and includes)", line_};
+        return false;
+      }
+      while (pos_ < size && buffer_[pos_] != '\n') ++pos_;
+    } else {
+      return true;
+    }
+  }
+  return true;
+}
+
+Token VerilogLexer::ScanNumber(size_t start) {
+  const size_t size = buffer_.size();
+  // Size (decimal digits) or nothing, then maybe ' base digits.
+  while (pos_ < size &&
+         (std::isdigit(static_cast<unsigned char>(buffer_[pos_])) || buffer_[pos_] == '_'))
+    ++pos_;
+  size_t save = pos_;
+  uint32_t save_line = line_;
+  while (pos_ < size && IsBlank(buffer_[pos_])) {
+    if (buffer_[pos_] == '\n') ++line_;
+    ++pos_;
+  }
+  if (pos_ < size && buffer_[pos_] == '\'') {
+    ++pos_;
+    if (pos_ < size && (buffer_[pos_] == 's' || buffer_[pos_] == 'S')) ++pos_;
+    if (pos_ >= size || std::string_view("bBoOdDhH").find(buffer_[pos_]) == std::string_view::npos)
+      return Token{TokenKind::kError, false, "malformed number", line_};
+    ++pos_;
+    while (pos_ < size && IsBlank(buffer_[pos_])) {
+      if (buffer_[pos_] == '\n') ++line_;
+      ++pos_;
+    }
+    size_t digits = pos_;
+    while (pos_ < size && IsDigitOfBase(buffer_[pos_])) ++pos_;
+    if (pos_ == digits) return Token{TokenKind::kError, false, "malformed number", line_};
+  } else {
+    pos_ = save;
+    line_ = save_line;
+  }
+  return Token{TokenKind::kNumber, false, buffer_.substr(start, pos_ - start), line_};
+}
+
+Token VerilogLexer::Scan() {
+  Token error;
+  if (!SkipBlanksAndComments(error)) return error;
+  const size_t size = buffer_.size();
+  if (pos_ >= size) return Token{TokenKind::kEnd, false, {}, line_};
+  size_t start = pos_;
+  char c = buffer_[pos_];
+  if (IsIdentStart(c)) {
+    while (pos_ < size && IsIdentChar(buffer_[pos_])) ++pos_;
+    return Token{TokenKind::kIdentifier, false, buffer_.substr(start, pos_ - start), line_};
+  }
+  if (c == '\\') {
+    ++pos_;
+    while (pos_ < size && !IsBlank(buffer_[pos_])) ++pos_;
+    if (pos_ == start + 1)
+      return Token{TokenKind::kError, false, "empty escaped identifier", line_};
+    return Token{TokenKind::kIdentifier, true, buffer_.substr(start + 1, pos_ - start - 1), line_};
+  }
+  if (std::isdigit(static_cast<unsigned char>(c)) || c == '\'') return ScanNumber(start);
+  if (c == '"') {
+    ++pos_;
+    while (pos_ < size && buffer_[pos_] != '"' && buffer_[pos_] != '\n') {
+      if (buffer_[pos_] == '\\' && pos_ + 1 < size) ++pos_;
+      ++pos_;
+    }
+    if (pos_ >= size || buffer_[pos_] != '"')
+      return Token{TokenKind::kError, false, "unterminated string", line_};
+    ++pos_;
+    return Token{TokenKind::kString, false, buffer_.substr(start + 1, pos_ - start - 2), line_};
+  }
+  if (c == '(' && pos_ + 1 < size && buffer_[pos_ + 1] == '*' &&
+      !(pos_ + 2 < size && buffer_[pos_ + 2] == ')')) {
+    pos_ += 2;
+    return Token{TokenKind::kPunct, false, buffer_.substr(start, 2), line_};
+  }
+  if (c == '*' && pos_ + 1 < size && buffer_[pos_ + 1] == ')') {
+    pos_ += 2;
+    return Token{TokenKind::kPunct, false, buffer_.substr(start, 2), line_};
+  }
+  ++pos_;
+  return Token{TokenKind::kPunct, false, buffer_.substr(start, 1), line_};
+}
+
+}  // namespace verilog
