@@ -17,12 +17,28 @@ std::string Netlist::PathPrefix() const {
 
 Cell* Netlist::AddCell(const std::string* name, const std::string* ref_name) {
   cells_.emplace_back(name, ref_name, this);
-  Cell* cell = &cells_.back();
-  cell_index_.emplace(*name, cell);
-  return cell;
+  return &cells_.back();
+}
+
+const std::string* Netlist::OwnName(std::string_view name) {
+  own_names_.emplace_back(name);
+  return &own_names_.back();
+}
+
+const Cell* Netlist::FindDuplicateCell() const {
+  if (cells_indexed_ == 0) cell_index_.reserve(cells_.size());
+  for (; cells_indexed_ < cells_.size(); ++cells_indexed_) {
+    Cell* cell = const_cast<Cell*>(&cells_[cells_indexed_]);
+    if (!cell_index_.emplace(cell->Name(), cell).second) {
+      ++cells_indexed_;
+      return cell;
+    }
+  }
+  return nullptr;
 }
 
 Cell* Netlist::FindCell(const std::string& name) const {
+  while (cells_indexed_ < cells_.size()) FindDuplicateCell();
   auto found = cell_index_.find(name);
   return found == cell_index_.end() ? nullptr : found->second;
 }
@@ -88,7 +104,7 @@ std::unique_ptr<Netlist> Netlist::CloneFor(Cell* instance) const {
     if (&net == tie_[0]) copy->tie_[0] = twin;
     if (&net == tie_[1]) copy->tie_[1] = twin;
   }
-  for (const auto& entry : net_index_) copy->net_index_[entry.first] = net_map[entry.second];
+  for (const auto& entry : aliases_) copy->aliases_[entry.first] = net_map[entry.second];
   for (const Cell& cell : cells_) {
     Cell* twin = copy->AddCell(&cell.Name(), &cell.GetRefName());
     twin->Bind(cell.GetRef(), cell.GetRefDesign(), cell.GetRefLibCell(), cell.PinCount());

@@ -36,8 +36,14 @@ class Netlist {
   // "u_core/u_alu/" below the top, "" at the top.
   std::string PathPrefix() const;
 
+  // A stable copy of a name unique to this netlist (cells, nets): kept
+  // here rather than interned, as nothing else shares it.
+  const std::string* OwnName(std::string_view name);
+
   // Cells in creation order.
   Cell* AddCell(const std::string* name, const std::string* ref_name);
+  // The first cell whose name an earlier cell already has, or null.
+  const Cell* FindDuplicateCell() const;
   const std::deque<Cell>& Cells() const { return cells_; }
   std::deque<Cell>& Cells() { return cells_; }
   Cell* FindCell(const std::string& name) const;
@@ -83,8 +89,14 @@ class Netlist {
   Cell* instance_;
   std::deque<Cell> cells_;
   std::deque<Net> nets_;
-  std::unordered_map<std::string_view, Cell*> cell_index_;  // views of interned names
-  std::unordered_map<std::string_view, Net*> net_index_;
+  // Name indexes, brought up to date on lookup: building them while a
+  // million instances are read would cost more than the reading.
+  mutable std::unordered_map<std::string_view, Cell*> cell_index_;
+  mutable size_t cells_indexed_ = 0;
+  mutable std::unordered_map<std::string_view, Net*> net_index_;
+  mutable size_t nets_indexed_ = 0;
+  std::unordered_map<std::string_view, Net*> aliases_;
+  std::deque<std::string> own_names_;
   Net* tie_[2] = {nullptr, nullptr};
   std::unique_ptr<Pin[]> port_pins_;
   uint32_t port_pin_count_ = 0;

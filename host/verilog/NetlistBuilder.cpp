@@ -56,8 +56,9 @@ NetlistBuilder::NetlistBuilder(cdm::Root* root, std::string file_name)
 
 NetlistBuilder::~NetlistBuilder() = default;
 
-bool NetlistBuilder::Fail(std::string message) {
+bool NetlistBuilder::Fail(std::string message, uint32_t line) {
   error_ = std::move(message);
+  error_line_ = line;
   return false;
 }
 
@@ -207,9 +208,7 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
 
 bool NetlistBuilder::Instance(const InstanceAst& inst) {
   cdm::Netlist* netlist = design_->GetNetlist();
-  const std::string* name = root_->Intern(inst.name);
-  if (netlist->FindCell(*name))
-    return Fail("instance '" + *name + "' is defined twice in module '" + design_->Name() + "'");
+  const std::string* name = netlist->OwnName(inst.name);
   cdm::Cell* cell = netlist->AddCell(name, root_->Intern(inst.ref));
   if (!inst.attrs.empty()) SetAttributes(*cell, inst.attrs);
   cdm::ModuleSource& source = netlist->Source();
@@ -331,13 +330,13 @@ bool NetlistBuilder::FinishNets() {
   for (uint32_t bit = 0; bit < count; ++bit) {
     int32_t root = FindRoot(static_cast<int32_t>(bit));
     if (net_of[root] < 0) {
-      cdm::Net* net = netlist->AddNet(root_->Intern(BitName(preferred[root])));
+      cdm::Net* net = netlist->AddNet(netlist->OwnName(BitName(preferred[root])));
       if (class_tie[root] >= 0) net->SetConstValue(class_tie[root]);
       net_of[root] = next_net++;
     }
     bit_net[bit] = net_of[root];
     if (static_cast<int32_t>(bit) != preferred[root])
-      netlist->AddNetAlias(root_->Intern(BitName(bit)), &netlist->Nets()[net_of[root]]);
+      netlist->AddNetAlias(netlist->OwnName(BitName(bit)), &netlist->Nets()[net_of[root]]);
   }
   cdm::ModuleSource& source = netlist->Source();
   for (int32_t& bit : source.bits)
@@ -351,6 +350,14 @@ bool NetlistBuilder::FinishNets() {
 }
 
 bool NetlistBuilder::EndModule(uint32_t line) {
+  cdm::Netlist* netlist = design_->GetNetlist();
+  if (const cdm::Cell* twice = netlist->FindDuplicateCell()) {
+    size_t index = 0;
+    while (&netlist->Cells()[index] != twice) ++index;
+    return Fail(
+        "instance '" + twice->Name() + "' is defined twice in module '" + design_->Name() + "'",
+        netlist->Source().instances[index].line);
+  }
   if (!FinishPorts(line) || !FinishNets()) return false;
   done_.push_back(std::move(design_));
   return true;

@@ -33,6 +33,7 @@ class NetlistBuilder : public StatementSink {
 
   // The complaint behind the last false return.
   const std::string& Error() const override { return error_; }
+  uint32_t ErrorLine() const override { return error_line_; }
   // Hands the finished designs to the root; returns their names in order.
   std::vector<std::string> Commit();
 
@@ -48,7 +49,7 @@ class NetlistBuilder : public StatementSink {
     uint32_t line = 0;
   };
 
-  bool Fail(std::string message);
+  bool Fail(std::string message, uint32_t line = 0);
   Symbol* FindSymbol(std::string_view name);
   Symbol& AddSymbol(std::string_view name, const Range& range, uint32_t line);
   uint32_t Width(const Symbol& symbol) const;
@@ -65,6 +66,7 @@ class NetlistBuilder : public StatementSink {
   std::string file_name_;
   std::shared_ptr<cdm::Object> owner_;
   std::string error_;
+  uint32_t error_line_ = 0;
   std::vector<std::unique_ptr<cdm::Design>> done_;
 
   // The module being read.

@@ -76,6 +76,8 @@ class StatementSink {
  public:
   virtual ~StatementSink() = default;
   virtual const std::string& Error() const = 0;
+  // The line the complaint is about, when not the statement's own; 0 else.
+  virtual uint32_t ErrorLine() const { return 0; }
   virtual bool BeginModule(const ModuleHeaderAst& header) = 0;
   virtual bool Declare(const DeclAst& decl, const std::vector<AttrAst>& attrs) = 0;
   virtual bool Instance(const InstanceAst& instance) = 0;

@@ -128,6 +128,10 @@ bool VerilogParser::Fail(uint32_t line, std::string message) {
   return false;
 }
 
+bool VerilogParser::SinkFail(uint32_t line) {
+  return Fail(sink_.ErrorLine() ? sink_.ErrorLine() : line, sink_.Error());
+}
+
 bool VerilogParser::FailAt(const Token& token, const std::string& what) {
   if (token.kind == TokenKind::kError) return Fail(token.line, std::string(token.text));
   return Fail(token.line, "expected " + what + ", found " + Describe(token));
@@ -352,13 +356,13 @@ bool VerilogParser::ParseModule(const std::vector<AttrAst>& attrs) {
   header.line = name.line;
   header.attrs = attrs;
   if (!SkipParameters() || !ParseHeaderPorts(header) || !Expect(";")) return false;
-  if (!sink_.BeginModule(header)) return Fail(name.line, sink_.Error());
+  if (!sink_.BeginModule(header)) return SinkFail(name.line);
   std::vector<AttrAst> item_attrs;
   for (;;) {
     if (!ParseAttributes(item_attrs)) return false;
     Token token = lexer_.Next();
     if (token.IsWord("endmodule")) {
-      if (!sink_.EndModule(token.line)) return Fail(token.line, sink_.Error());
+      if (!sink_.EndModule(token.line)) return SinkFail(token.line);
       return true;
     }
     if (token.kind == TokenKind::kEnd)
@@ -413,15 +417,15 @@ bool VerilogParser::ParseDecl(DeclKind kind, uint32_t line, const std::vector<At
       assign.lhs.name = name.text;
       assign.lhs.line = name.line;
       if (!ParseExpr(assign.rhs)) return false;
-      if (!sink_.Declare(decl, attrs)) return Fail(line, sink_.Error());
+      if (!sink_.Declare(decl, attrs)) return SinkFail(line);
       decl.names.clear();
-      if (!sink_.Assign(assign)) return Fail(assign.line, sink_.Error());
+      if (!sink_.Assign(assign)) return SinkFail(assign.line);
       next = lexer_.Next();
     }
     if (next.Is(";")) break;
     if (!next.Is(",")) return FailAt(next, "',' or ';'");
   }
-  if (!decl.names.empty() && !sink_.Declare(decl, attrs)) return Fail(line, sink_.Error());
+  if (!decl.names.empty() && !sink_.Declare(decl, attrs)) return SinkFail(line);
   if (tie < 0) return true;
   size_t width = decl.range.present ? std::abs(decl.range.msb - decl.range.lsb) + 1 : 1;
   for (std::string_view name : decl.names) {
@@ -433,7 +437,7 @@ bool VerilogParser::ParseDecl(DeclKind kind, uint32_t line, const std::vector<At
     assign.rhs.kind = Expr::kConstant;
     assign.rhs.bits.assign(width, tie ? '1' : '0');
     assign.rhs.line = line;
-    if (!sink_.Assign(assign)) return Fail(line, sink_.Error());
+    if (!sink_.Assign(assign)) return SinkFail(line);
   }
   return true;
 }
@@ -453,7 +457,7 @@ bool VerilogParser::ParseAssign(uint32_t line) {
                   "only nets and constants can be assigned; expressions with operators "
                   "are not structural Verilog");
     }
-    if (!sink_.Assign(assign)) return Fail(line, sink_.Error());
+    if (!sink_.Assign(assign)) return SinkFail(line);
     if (next.Is(";")) return true;
   }
 }
@@ -506,7 +510,7 @@ bool VerilogParser::ParseInstance(const Token& ref, const std::vector<AttrAst>& 
         if (!next.Is(",")) return FailAt(next, "',' or ')'");
       }
     }
-    if (!sink_.Instance(inst)) return Fail(inst.line, sink_.Error());
+    if (!sink_.Instance(inst)) return SinkFail(inst.line);
     Token next = lexer_.Next();
     if (next.Is(";")) return true;
     if (!next.Is(",")) return FailAt(next, "',' or ';'");

@@ -39,6 +39,7 @@ class VerilogParser {
   bool ExpectIdentifier(Token& token, const char* what);
   bool Fail(uint32_t line, std::string message);
   bool FailAt(const Token& token, const std::string& what);
+  bool SinkFail(uint32_t line);
 
   VerilogLexer& lexer_;
   StatementSink& sink_;

@@ -1,0 +1,75 @@
+// Reads and links netlists and prints what it cost:
+//
+//   kelvo_bench_read_link NETLIST...
+//
+// One line per netlist: seconds to read, seconds to link, leaf instances
+// of the elaborated top, instances per second (read and link together),
+// peak resident memory, and memory growth per instance.
+#include <sys/resource.h>
+
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "db/Linker.h"
+#include "db/Netlist.h"
+#include "hostapi/cdm/Cell.h"
+#include "hostapi/cdm/DesignIterators.h"
+#include "hostapi/cdm/Root.h"
+#include "verilog/VerilogReader.h"
+
+namespace {
+
+long PeakKilobytes() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss;
+}
+
+double Since(std::chrono::steady_clock::time_point start) {
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2) {
+    std::fprintf(stderr, "usage: %s NETLIST...\n", argv[0]);
+    return 2;
+  }
+  std::printf("%-28s %8s %8s %10s %12s %10s %10s\n", "netlist", "read s", "link s", "instances",
+              "inst/s", "peak MB", "B/inst");
+  for (int i = 1; i < argc; ++i) {
+    // A root per netlist, so that each starts from nothing.
+    auto root = std::make_unique<cdm::Root>();
+    long before = PeakKilobytes();
+    auto start = std::chrono::steady_clock::now();
+    std::vector<std::string> modules;
+    std::string error;
+    if (!verilog::ReadVerilogFile(root.get(), argv[i], modules, error)) {
+      std::fprintf(stderr, "%s\n", error.c_str());
+      return 1;
+    }
+    double read_seconds = Since(start);
+    start = std::chrono::steady_clock::now();
+    cdm::Design* top = cdm::FindTopDesign(root.get(), error);
+    std::vector<std::string> warnings;
+    if (!top || !cdm::LinkDesign(root.get(), top, warnings, error)) {
+      std::fprintf(stderr, "%s\n", error.c_str());
+      return 1;
+    }
+    double link_seconds = Since(start);
+    long leaves = 0;
+    for (cdm::DesignCellIterator it(top, true, [](const cdm::Cell* c) { return c->IsLeaf(); });
+         it.HasNext(); it.Next())
+      ++leaves;
+    long peak = PeakKilobytes();
+    std::string name = argv[i];
+    if (name.size() > 28) name = "..." + name.substr(name.size() - 25);
+    std::printf("%-28s %8.2f %8.2f %10ld %12.0f %10.1f %10.0f\n", name.c_str(), read_seconds,
+                link_seconds, leaves, leaves / (read_seconds + link_seconds), peak / 1024.0,
+                leaves ? (peak - before) * 1024.0 / leaves : 0.0);
+  }
+  return 0;
+}

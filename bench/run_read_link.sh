@@ -1,0 +1,17 @@
+#!/bin/sh
+# Generates flat and hierarchical netlists of 10k, 100k and 1M instances
+# and reads and links each. Usage: bench/run_read_link.sh BUILD_DIR [SIZES]
+set -e
+build=${1:?usage: run_read_link.sh BUILD_DIR [SIZES]}
+sizes=${2:-"10000 100000 1000000"}
+work=${TMPDIR:-/tmp}/kelvo_bench_netlists
+mkdir -p "$work"
+files=""
+for n in $sizes; do
+  for kind in flat hier; do
+    f="$work/${kind}_$n.v"
+    [ -f "$f" ] || "$build/kelvo_gen_netlist" "$kind" "$n" "$f"
+    files="$files $f"
+  done
+done
+"$build/kelvo_bench_read_link" $files
