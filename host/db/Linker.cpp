@@ -157,6 +157,7 @@ class Linker {
       key = lib_cell;
     } else {
       ++unresolved_[cell.GetRefName()];
+      ref = netlist->Unresolved(&cell.GetRefName());
       // Pins named after the connections, so that they can still be shown.
       for (uint32_t c = 0; c < inst.conn_count; ++c) {
         const ConnSource& conn = source.conns[inst.first_conn + c];

@@ -89,6 +89,13 @@ Port* Netlist::StubPort(const std::string* name) {
   return stub_ports_.back().get();
 }
 
+UnresolvedReference* Netlist::Unresolved(const std::string* name) {
+  for (const auto& ref : unresolved_)
+    if (&ref->Name() == name) return ref.get();
+  unresolved_.push_back(std::make_unique<UnresolvedReference>(name, design_->Owner()));
+  return unresolved_.back().get();
+}
+
 }  // namespace cdm
 
 namespace cdm {

@@ -67,8 +67,10 @@ class Netlist {
   }
   uint32_t PortPinCount() const { return port_pin_count_; }
 
-  // Stub ports for the pins of unresolved cells, owned here.
+  // Stub ports for the pins of unresolved cells, and their references,
+  // owned here.
   Port* StubPort(const std::string* name);
+  UnresolvedReference* Unresolved(const std::string* name);
 
   // What the reader saw: kept so that link can be run again.
   ModuleSource& Source() { return source_; }
@@ -101,6 +103,7 @@ class Netlist {
   std::unique_ptr<Pin[]> port_pins_;
   uint32_t port_pin_count_ = 0;
   std::vector<std::unique_ptr<Port>> stub_ports_;
+  std::vector<std::unique_ptr<UnresolvedReference>> unresolved_;
   ModuleSource source_;
   std::vector<std::unique_ptr<Netlist>> clones_;
   bool linked_ = false;

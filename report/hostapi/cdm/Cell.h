@@ -8,6 +8,7 @@
 
 #include "hostapi/cdm/Iterator.h"
 #include "hostapi/cdm/Object.h"
+#include "hostapi/cdm/Reference.h"
 
 namespace cdm {
 
@@ -17,6 +18,20 @@ class Netlist;
 class Pin;
 class Reference;
 
+// What a cell refers to when link found neither a module nor a library
+// cell of its name: only the name, and the netlist file it was written in
+// as its owner. Neither IsDesign nor IsLibRef.
+class UnresolvedReference : public Reference {
+ public:
+  UnresolvedReference(const std::string* name, Object* owner) : Reference(name), owner_(owner) {}
+  bool IsDesign() const override { return false; }
+  bool IsLibRef() const override { return false; }
+  Object* Owner() const { return owner_; }
+
+ private:
+  Object* owner_;
+};
+
 class Cell : public Object {
  public:
   Cell(const std::string* name, const std::string* ref_name, Netlist* netlist);
@@ -25,7 +40,8 @@ class Cell : public Object {
   // Path of the enclosing instances and the local name: "u_core/u_alu/U12".
   std::string GetFullName() const override;
 
-  // What the cell instantiates; null while unresolved.
+  // What the cell instantiates: a Design, a LibCell, or after link for an
+  // unresolved reference an UnresolvedReference; null only before link.
   Reference* GetRef() const { return ref_; }
   Design* GetRefDesign() const { return design_; }
   LibCell* GetRefLibCell() const { return lib_cell_; }
@@ -34,7 +50,7 @@ class Cell : public Object {
 
   bool IsLeaf() const { return GetRefDesign() == nullptr; }
   bool IsHierarchical() const { return GetRefDesign() != nullptr; }
-  bool IsUnresolved() const { return ref_ == nullptr; }
+  bool IsUnresolved() const { return design_ == nullptr && lib_cell_ == nullptr; }
   // An instance of a tie cell: a library cell whose outputs are all constant.
   bool IsConstCell() const;
   // An instance of a cell of the generic library.

@@ -135,7 +135,11 @@ TEST_F(DesignTest, UnresolvedReferencesWarnAndKeepTheirConnections) {
   // Counted as written in the modules: once in pass, once in top.
   EXPECT_NE(warnings_[0].find("'G' (2 cells)"), std::string::npos) << warnings_[0];
   cdm::Cell* g0 = top->FindCell("g0");
-  EXPECT_EQ(g0->GetRef(), nullptr);
+  ASSERT_NE(g0->GetRef(), nullptr);
+  EXPECT_FALSE(g0->GetRef()->IsDesign());
+  EXPECT_FALSE(g0->GetRef()->IsLibRef());
+  EXPECT_EQ(g0->GetRef()->GetRefText(), "G");
+  EXPECT_TRUE(g0->IsUnresolved());
   EXPECT_EQ(g0->GetRefDesign(), nullptr);
   EXPECT_EQ(g0->GetRefLibCell(), nullptr);
   EXPECT_TRUE(g0->IsLeaf());
