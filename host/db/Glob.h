@@ -7,7 +7,9 @@
 
 namespace cdm {
 
-bool GlobMatch(std::string_view pattern, std::string_view text);
+// With `within_level`, "*" and "?" do not match "/": for patterns over
+// full path names, where "u_core/*" means the cells right below u_core.
+bool GlobMatch(std::string_view pattern, std::string_view text, bool within_level = false);
 bool HasWildcard(std::string_view pattern);
 
 }  // namespace cdm

@@ -17,6 +17,15 @@ TEST(Glob, StarAndQuestionMark) {
   EXPECT_FALSE(cdm::GlobMatch("", "a"));
 }
 
+TEST(Glob, WithinLevelWildcardsStopAtSlash) {
+  EXPECT_TRUE(cdm::GlobMatch("u_core/*", "u_core/u_alu/U1"));
+  EXPECT_FALSE(cdm::GlobMatch("u_core/*", "u_core/u_alu/U1", true));
+  EXPECT_TRUE(cdm::GlobMatch("u_core/*", "u_core/U1", true));
+  EXPECT_TRUE(cdm::GlobMatch("*/*/U1", "a/b/U1", true));
+  EXPECT_FALSE(cdm::GlobMatch("a?b", "a/b", true));
+  EXPECT_TRUE(cdm::GlobMatch("a?b", "a/b"));
+}
+
 TEST(Glob, BracketsAreLiteral) {
   EXPECT_TRUE(cdm::GlobMatch("data[3]", "data[3]"));
   EXPECT_FALSE(cdm::GlobMatch("data[3]", "data3"));
