@@ -25,20 +25,16 @@ const std::string* Netlist::OwnName(std::string_view name) {
   return &own_names_.back();
 }
 
-const Cell* Netlist::FindDuplicateCell() const {
+void Netlist::IndexNewCells() const {
   if (cells_indexed_ == 0) cell_index_.reserve(cells_.size());
   for (; cells_indexed_ < cells_.size(); ++cells_indexed_) {
     Cell* cell = const_cast<Cell*>(&cells_[cells_indexed_]);
-    if (!cell_index_.emplace(cell->Name(), cell).second) {
-      ++cells_indexed_;
-      return cell;
-    }
+    cell_index_.emplace(cell->Name(), cell);
   }
-  return nullptr;
 }
 
 Cell* Netlist::FindCell(const std::string& name) const {
-  while (cells_indexed_ < cells_.size()) FindDuplicateCell();
+  IndexNewCells();
   auto found = cell_index_.find(name);
   return found == cell_index_.end() ? nullptr : found->second;
 }

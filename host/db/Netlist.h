@@ -42,8 +42,6 @@ class Netlist {
 
   // Cells in creation order.
   Cell* AddCell(const std::string* name, const std::string* ref_name);
-  // The first cell whose name an earlier cell already has, or null.
-  const Cell* FindDuplicateCell() const;
   const std::deque<Cell>& Cells() const { return cells_; }
   std::deque<Cell>& Cells() { return cells_; }
   Cell* FindCell(const std::string& name) const;
@@ -95,6 +93,7 @@ class Netlist {
   // million instances are read would cost more than the reading.
   mutable std::unordered_map<std::string_view, Cell*> cell_index_;
   mutable size_t cells_indexed_ = 0;
+  void IndexNewCells() const;
   mutable std::unordered_map<std::string_view, Net*> net_index_;
   mutable size_t nets_indexed_ = 0;
   std::unordered_map<std::string_view, Net*> aliases_;

@@ -63,8 +63,8 @@ bool NetlistBuilder::Fail(std::string message, uint32_t line) {
 }
 
 NetlistBuilder::Symbol* NetlistBuilder::FindSymbol(std::string_view name) {
-  auto found = symbol_index_.find(name);
-  return found == symbol_index_.end() ? nullptr : &symbols_[found->second];
+  uint32_t index = symbol_index_.Find(name);
+  return index == NameTable::kNone ? nullptr : &symbols_[index];
 }
 
 uint32_t NetlistBuilder::Width(const Symbol& symbol) const {
@@ -87,7 +87,7 @@ NetlistBuilder::Symbol& NetlistBuilder::AddSymbol(std::string_view name, const R
     tie_.push_back(-1);
   }
   symbols_.push_back(symbol);
-  symbol_index_.emplace(name, index);
+  symbol_index_.Insert(name, index);
   return symbols_.back();
 }
 
@@ -107,7 +107,8 @@ bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   design_->GetNetlist()->Source().line = header.line;
   header_ports_ = header.ports;
   symbols_.clear();
-  symbol_index_.clear();
+  symbol_index_.Clear();
+  instance_index_.Clear();
   bit_symbol_.clear();
   parent_.clear();
   tie_.clear();
@@ -208,6 +209,10 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
 
 bool NetlistBuilder::Instance(const InstanceAst& inst) {
   cdm::Netlist* netlist = design_->GetNetlist();
+  if (instance_index_.Find(inst.name) != NameTable::kNone)
+    return Fail("instance '" + std::string(inst.name) + "' is defined twice in module '" +
+                design_->Name() + "'");
+  instance_index_.Insert(inst.name, 0);
   const std::string* name = netlist->OwnName(inst.name);
   cdm::Cell* cell = netlist->AddCell(name, root_->Intern(inst.ref));
   if (!inst.attrs.empty()) SetAttributes(*cell, inst.attrs);
@@ -350,14 +355,6 @@ bool NetlistBuilder::FinishNets() {
 }
 
 bool NetlistBuilder::EndModule(uint32_t line) {
-  cdm::Netlist* netlist = design_->GetNetlist();
-  if (const cdm::Cell* twice = netlist->FindDuplicateCell()) {
-    size_t index = 0;
-    while (&netlist->Cells()[index] != twice) ++index;
-    return Fail(
-        "instance '" + twice->Name() + "' is defined twice in module '" + design_->Name() + "'",
-        netlist->Source().instances[index].line);
-  }
   if (!FinishPorts(line) || !FinishNets()) return false;
   done_.push_back(std::move(design_));
   return true;

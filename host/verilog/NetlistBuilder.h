@@ -7,9 +7,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include "verilog/NameTable.h"
 #include "verilog/VerilogAst.h"
 
 namespace cdm {
@@ -73,7 +73,8 @@ class NetlistBuilder : public StatementSink {
   std::unique_ptr<cdm::Design> design_;
   std::vector<std::string_view> header_ports_;
   std::vector<Symbol> symbols_;
-  std::unordered_map<std::string_view, uint32_t> symbol_index_;
+  NameTable symbol_index_;
+  NameTable instance_index_;
   std::vector<uint32_t> bit_symbol_;  // bit -> symbol
   std::vector<int32_t> parent_;       // union-find over bits
   std::vector<int8_t> tie_;           // per bit: -1, 0 or 1 from assigns
