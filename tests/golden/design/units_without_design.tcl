@@ -1,0 +1,2 @@
+# No design: the one sentence and a failure.
+report_units
