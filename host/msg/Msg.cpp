@@ -1,5 +1,7 @@
 #include "hostapi/msg/Msg.h"
 
+#include <tcl.h>
+
 #include <cstdarg>
 #include <cstdio>
 #include <string>
@@ -51,6 +53,8 @@ void PopResultSink() {
 
 void WriteResult(std::string_view text) {
   if (Sinks().empty()) {
+    // Text a script wrote with puts must come out first.
+    if (Tcl_Channel tcl_out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(tcl_out);
     std::fwrite(text.data(), 1, text.size(), stdout);
     std::fflush(stdout);
     return;

@@ -1,0 +1,22 @@
+// Every command made in the process, in order of creation. The table owns
+// nothing: commands live until the process ends.
+#pragma once
+
+#include <vector>
+
+class CommonCmd;
+
+namespace cmdlib {
+
+class CommandTable {
+ public:
+  static CommandTable& Get();
+  void Add(CommonCmd* command) { commands_.push_back(command); }
+  const std::vector<CommonCmd*>& Commands() const { return commands_; }
+  CommonCmd* Find(const char* name) const;
+
+ private:
+  std::vector<CommonCmd*> commands_;
+};
+
+}  // namespace cmdlib

@@ -1,0 +1,87 @@
+#include "cmdlib/TclBinding.h"
+
+#include <cstdio>
+#include <exception>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "cmdlib/ArgParser.h"
+#include "cmdlib/CommandState.h"
+#include "cmdlib/CommandTable.h"
+
+namespace cmdlib {
+namespace {
+
+void FlushOutputs() {
+  if (Tcl_Channel out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(out);
+  std::fflush(stdout);
+}
+
+void SetResult(Tcl_Interp* interp, const CommonCmd::State& state) {
+  if (!state.result_is_list) {
+    Tcl_SetObjResult(interp, Tcl_NewStringObj(state.result.c_str(), -1));
+    return;
+  }
+  Tcl_Obj* list = Tcl_NewListObj(0, nullptr);
+  for (const std::string& item : state.result_list)
+    Tcl_ListObjAppendElement(interp, list, Tcl_NewStringObj(item.c_str(), -1));
+  Tcl_SetObjResult(interp, list);
+}
+
+// parse, prevExec, exec when prevExec passed, postExec.
+int RunCommand(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
+  CommonCmd* command = static_cast<CommonCmd*>(data);
+  CommonCmd::State& state = command->state();
+  std::vector<std::string> args;
+  for (int i = 1; i < objc; ++i) args.emplace_back(Tcl_GetString(objv[i]));
+
+  FlushOutputs();
+  ParseOutcome outcome = ParseArguments(state, args);
+  if (!outcome.ok) {
+    Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + outcome.error).c_str(), -1));
+    return TCL_ERROR;
+  }
+  if (outcome.help) {
+    command->printUsage();
+    FlushOutputs();
+    Tcl_ResetResult(interp);
+    return TCL_OK;
+  }
+  int status = 1;
+  try {
+    status = command->prevExec();
+    if (status == 0) {
+      status = command->exec();
+      command->postExec();
+    }
+  } catch (const std::exception& failure) {
+    FlushOutputs();
+    std::string message = state.name + ": internal error: " + failure.what();
+    Tcl_SetObjResult(interp, Tcl_NewStringObj(message.c_str(), -1));
+    return TCL_ERROR;
+  }
+  FlushOutputs();
+  if (state.has_error) {
+    Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + state.error).c_str(), -1));
+    return TCL_ERROR;
+  }
+  if (state.has_result) {
+    SetResult(interp, state);
+    return TCL_OK;
+  }
+  Tcl_SetObjResult(interp, Tcl_NewIntObj(status));
+  return TCL_OK;
+}
+
+}  // namespace
+
+void BindCommands(Tcl_Interp* interp) {
+  static std::set<std::pair<Tcl_Interp*, CommonCmd*>> bound;
+  for (CommonCmd* command : CommandTable::Get().Commands()) {
+    if (!bound.insert({interp, command}).second) continue;
+    Tcl_CreateObjCommand(interp, command->name().c_str(), RunCommand, command, nullptr);
+  }
+}
+
+}  // namespace cmdlib

@@ -1,0 +1,11 @@
+// Makes the commands of the command table callable from a Tcl interpreter.
+#pragma once
+
+#include <tcl.h>
+
+namespace cmdlib {
+
+// Creates a Tcl command for every command in the table that has none yet.
+void BindCommands(Tcl_Interp* interp);
+
+}  // namespace cmdlib
