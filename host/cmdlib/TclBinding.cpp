@@ -57,13 +57,20 @@ int RunCommand(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const obj
     }
   } catch (const std::exception& failure) {
     FlushOutputs();
-    std::string message = state.name + ": internal error: " + failure.what();
+    std::string message = "Error: " + state.name + ": internal error: " + failure.what();
     Tcl_SetObjResult(interp, Tcl_NewStringObj(message.c_str(), -1));
     return TCL_ERROR;
   }
   FlushOutputs();
   if (state.has_error) {
     Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + state.error).c_str(), -1));
+    return TCL_ERROR;
+  }
+  // A report's status is its result and a failed report lets the script go
+  // on; a host command that failed without saying why must not pass.
+  if (status != 0 && !command->cmdModule()) {
+    std::string message = "Error: " + state.name + ": failed";
+    Tcl_SetObjResult(interp, Tcl_NewStringObj(message.c_str(), -1));
     return TCL_ERROR;
   }
   if (state.has_result) {

@@ -104,6 +104,18 @@ int RedirectCmd(ClientData, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[])
   std::string target = Tcl_GetString(objv[i]);
   Tcl_Obj* script = objv[i + 1];
 
+  // Open the file first: a target that cannot be written fails before the
+  // script runs, not after its text is lost.
+  std::ofstream file;
+  if (!to_variable) {
+    file.open(target, append ? std::ios::app : std::ios::trunc);
+    if (!file) {
+      std::string message = "Error: redirect: cannot open '" + target + "' for writing";
+      Tcl_SetObjResult(interp, Tcl_NewStringObj(message.c_str(), -1));
+      return TCL_ERROR;
+    }
+  }
+
   std::string captured;
   FlushAll();
   msg::PushResultSink([&captured, tee](std::string_view text) {
@@ -130,13 +142,13 @@ int RedirectCmd(ClientData, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[])
     Tcl_DecrRefCount(result);
     return status;
   }
-  std::ofstream file(target, append ? std::ios::app : std::ios::trunc);
-  if (!file) {
-    std::string message = "Error: redirect: cannot open '" + target + "' for writing";
+  file << captured;
+  file.flush();
+  if (!file && status == TCL_OK) {
+    std::string message = "Error: redirect: cannot write '" + target + "'";
     Tcl_SetObjResult(interp, Tcl_NewStringObj(message.c_str(), -1));
     return TCL_ERROR;
   }
-  file << captured;
   return status;
 }
 

@@ -36,10 +36,13 @@ void FlushTclStdout() {
 }
 
 // Prints the error of a failed evaluation (message and where) on stderr.
-void ReportTclError(Tcl_Interp* interp) {
+// Tcl names the file and line of a script; for a command string the line
+// is added here.
+void ReportTclError(Tcl_Interp* interp, bool command_string = false) {
   FlushTclStdout();
   const char* info = Tcl_GetVar(interp, "errorInfo", TCL_GLOBAL_ONLY);
   std::fprintf(stderr, "%s\n", info ? info : Tcl_GetStringResult(interp));
+  if (command_string) std::fprintf(stderr, "    (command string line %d)\n", Tcl_GetErrorLine(interp));
   std::fflush(stderr);
 }
 
@@ -128,7 +131,7 @@ int main(int argc, char** argv) {
     SetArgv(interp, argv[0], argc - 3, argv + 3);
     Tcl_SetVar(interp, "tcl_interactive", "0", TCL_GLOBAL_ONLY);
     if (Tcl_Eval(interp, argv[2]) != TCL_OK) {
-      ReportTclError(interp);
+      ReportTclError(interp, true);
       return Finish(interp, 1);
     }
     return Finish(interp, 0);
