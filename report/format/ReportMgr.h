@@ -41,8 +41,7 @@ class ReportTable {
   void PopBack();
   void PrintTable(const int& indent, bool print_if_empty);
 
-  std::string FormatValue(unsigned long width, const std::string& text,
-                          Alignment alignment) const;
+  std::string FormatValue(unsigned long width, const std::string& text, Alignment alignment) const;
   static std::string RemoveTrailingWhitespace(const std::string& text);
   static std::string Float2Str(float value, int digits);
   static std::string Double2Str(double value, int digits);
