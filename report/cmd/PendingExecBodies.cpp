@@ -10,7 +10,6 @@ int ReportBufferTreeCmd::exec() { return 1; }
 int ReportBusCmd::exec() { return 1; }
 int ReportCellCmd::exec() { return 1; }
 int ReportHierarchyCmd::exec() { return 1; }
-int ReportLibCmd::exec() { return 1; }
 int ReportNetCmd::exec() { return 1; }
 int ReportNetFanoutCmd::exec() { return 1; }
 int ReportPortCmd::exec() { return 1; }

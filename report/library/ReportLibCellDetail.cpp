@@ -1,0 +1,219 @@
+// Cell blocks of the all, timing and power forms of report_lib: cell head,
+// leakage, and per pin its capacitance, timing groups and internal power.
+#include "hostapi/cdm/Selectors.h"
+#include "library/ReportLibSections.h"
+
+namespace {
+
+enum PinDirection { kInput = 0, kOutput = 1, kInout = 2 };
+
+std::string CapText(cdm::LibertyLib* lib, float value) {
+  return GetDoubleAttrString(value, lib->GetUnits().capacitance.scale, " ");
+}
+
+void PrintCellHead(std::ostream& os, cdm::LibCell* cell) {
+  os << "\nCell(" << cell->Name() << "): " << cell->GetArea() << "\n";
+}
+
+void PrintCellTail(std::ostream& os, cdm::LibCell* cell) {
+  os << "END_CELL " << cell->Name() << ";\n";
+}
+
+void PrintCellLeakagePowerInfo(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell) {
+  const float scale = lib->GetUnits().power.scale;
+  os << "  LeakagePower : " << cell->GetCellLeakagePower() / scale << "\n";
+  for (const auto& leakage : cell->GetLeakagePowers()) {
+    os << "  LEAKAGE_POWER :\n"
+       << "         WHEN  : " << leakage->GetWhen()->GetFuncStr() << "\n"
+       << "         VALUE : " << leakage->GetValue() / scale << "\n";
+  }
+}
+
+void PrintOnePinTimingGroup(std::ostream& os, cdm::LibertyLib* lib, cdm::LibPort* port) {
+  for (const auto& attr : port->GetTimingAttrs()) {
+    PrintTimingGroupHead(os, lib, port, attr);
+    const cdm::RiseFall* rise = cdm::RiseFall::rise_;
+    // Both models are dumped under the rise edge, as the report always did.
+    if (const auto* model = attr->GetTimingModel(rise)) {
+      os << model->DumpSelf(rise, lib->GetUnits());
+    }
+    if (const auto* model = attr->GetTimingModel(cdm::RiseFall::fall_)) {
+      os << model->DumpSelf(rise, lib->GetUnits());
+    }
+  }
+}
+
+void PrintOnePinInternalPowerGroup(std::ostream& os, cdm::LibertyLib* lib, cdm::LibPort* port) {
+  const cdm::LibUnits& units = lib->GetUnits();
+  for (const auto& power : port->GetPowerAttrs()) {
+    os << "    INTERNAL_POWER: " << power->GetRelatedPinsStr() << ", , "
+       << power->GetWhen()->GetFuncStr() << ";\n";
+    const cdm::LibPowerModel* rise = power->GetLibPowerModel(cdm::RiseFall::rise_);
+    const cdm::LibPowerModel* fall = power->GetLibPowerModel(cdm::RiseFall::fall_);
+    if (rise == fall) {
+      if (rise) os << rise->DumpSelf(cdm::RiseFallBoth::rise_fall_, units);
+      continue;
+    }
+    if (rise) os << rise->DumpSelf(cdm::RiseFallBoth::rise_, units);
+    if (fall) os << fall->DumpSelf(cdm::RiseFallBoth::fall_, units);
+  }
+}
+
+// The three pin walks differ in what follows the head.
+enum class PinParts { kAll, kTiming, kPower };
+
+void PrintPins(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell, PinParts parts) {
+  std::unique_ptr<cdm::Iterator<cdm::LibPort>> ports(cell->LibPortIter());
+  while (ports->HasNext()) {
+    cdm::LibPort* port = ports->Next();
+    // The full listing passes over a pin it cannot name a direction for.
+    if (parts == PinParts::kAll && port->GetDirection() > kInout) continue;
+    if (!PrintOnePinHead(os, lib, port)) continue;
+    PrintOnePinCap(os, lib, port);
+    if (parts != PinParts::kPower) PrintOnePinTimingGroup(os, lib, port);
+    if (parts != PinParts::kTiming) PrintOnePinInternalPowerGroup(os, lib, port);
+    os << "  END_PIN " << port->Name() << ";\n";
+  }
+}
+
+}  // namespace
+
+bool PrintOnePinHead(std::ostream& os, cdm::LibertyLib* lib, cdm::LibPort* port) {
+  os << "\n";
+  const int direction = port->GetDirection();
+  if (direction == kInput) {
+    os << "  Pin(" << port->Name() << "): in, " << CapText(lib, port->GetCapacitance()) << ", , "
+       << CapText(lib, port->GetCapacitance(cdm::RiseFall::rise_, cdm::MinMax::max_)) << ", "
+       << CapText(lib, port->GetCapacitance(cdm::RiseFall::fall_, cdm::MinMax::max_)) << ";\n";
+    return true;
+  }
+  if (direction == kOutput || direction == kInout) {
+    const std::string limit = CapText(lib, port->GetCapacitanceLimits(cdm::MinMax::max_));
+    os << "  Pin(" << port->Name() << "): " << (direction == kOutput ? "out, " : "inout, ")
+       << CapText(lib, port->GetCapacitance()) << ", , " << limit << ", " << limit << ";\n";
+    return true;
+  }
+  return false;
+}
+
+void PrintOnePinCap(std::ostream& os, cdm::LibertyLib* lib, cdm::LibPort* port) {
+  const int direction = port->GetDirection();
+  if (direction != kInput && direction != kInout) return;
+  const cdm::MinMax* min = cdm::MinMax::min_;
+  const cdm::MinMax* max = cdm::MinMax::max_;
+  const cdm::RiseFall* rise = cdm::RiseFall::rise_;
+  const cdm::RiseFall* fall = cdm::RiseFall::fall_;
+  os << "    RISE_CAPACITANCE_RANGE(" << CapText(lib, port->GetCapacitance(rise, min)) << ", "
+     << CapText(lib, port->GetCapacitance(rise, max)) << ")\n"
+     << "    FALL_CAPACITANCE_RANGE(" << CapText(lib, port->GetCapacitance(fall, min)) << ", "
+     << CapText(lib, port->GetCapacitance(fall, max)) << ")\n";
+}
+
+void PrintTimingGroupHead(std::ostream& os, cdm::LibertyLib* /*lib*/, cdm::LibPort* port,
+                          const std::shared_ptr<cdm::LibTimingAttr>& attr) {
+  const std::string related = attr->GetRelatedPinsStr();
+  const std::string& pin = port->Name();
+  const std::string sense = cdm::to_string(attr->GetTimingSense());
+  const auto delay = [&](const char* kind) {
+    return "    DELAY: " + related + ", " + pin + ", " + kind + ", " + sense;
+  };
+  std::string line;
+  switch (static_cast<int>(attr->GetTimingType())) {
+    case 0:
+      line = delay("clear");
+      break;
+    case 1:
+    case 37:
+      line = delay("prop");
+      break;
+    case 2:
+      line = delay("prop_f");
+      break;
+    case 3:
+      line = delay("prop_r");
+      break;
+    case 17:
+      line = delay("preset");
+      break;
+    case 28:
+      line = delay("disable");
+      break;
+    case 29:
+      line = delay("disable_f");
+      break;
+    case 30:
+      line = delay("disable_r");
+      break;
+    case 31:
+      line = delay("enable");
+      break;
+    case 32:
+      line = delay("enable_f");
+      break;
+    case 33:
+      line = delay("enable_r");
+      break;
+    case 4:
+      line = "    SAMPLE: " + related + ", fall, " + pin + ", " + sense;
+      break;
+    case 23:
+      line = "    SAMPLE: " + related + ", rise, " + pin + ", " + sense;
+      break;
+    case 5:
+      line = "    HOLD: " + related + ", fall" + pin + ", ,";
+      break;
+    case 6:
+      line = "    HOLD: " + related + ", rise" + pin + ", ,";
+      break;
+    case 24:
+      line = "    SETUP: " + pin + ", " + related + ", fall, ,";
+      break;
+    case 25:
+      line = "    SETUP: " + pin + ", " + related + ", rise, ,";
+      break;
+    case 18:
+      line = "    RECOV: " + related + ", fall " + pin + ",  ,";
+      break;
+    case 19:
+      line = "    RECOV: " + related + ", rise " + pin + ",  ,";
+      break;
+    case 20:
+      line = "    REMOVAL: " + related + ", fall " + pin + ",  ,";
+      break;
+    case 21:
+      line = "    REMOVAL: " + related + ", rise " + pin + ",  ,";
+      break;
+    case 7:
+      line = "    MPW: " + pin + ",  ,";
+      break;
+    default:
+      return;
+  }
+  os << line << ", " << attr->GetWhen()->GetFuncStr() << "\n";
+}
+
+int PrintCellInfo(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names) {
+  return WalkLibCells(lib, names, [&os, lib](cdm::LibCell* cell) {
+    PrintCellHead(os, cell);
+    PrintCellLeakagePowerInfo(os, lib, cell);
+    PrintPins(os, lib, cell, PinParts::kAll);
+    PrintCellTail(os, cell);
+  });
+}
+
+int PrintCellTimingInfo(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names) {
+  return WalkLibCells(lib, names, [&os, lib](cdm::LibCell* cell) {
+    PrintCellHead(os, cell);
+    PrintPins(os, lib, cell, PinParts::kTiming);
+    PrintCellTail(os, cell);
+  });
+}
+
+int PrintCellPowerInfo(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names) {
+  return WalkLibCells(lib, names, [&os, lib](cdm::LibCell* cell) {
+    PrintCellHead(os, cell);
+    PrintCellLeakagePowerInfo(os, lib, cell);
+    PrintPins(os, lib, cell, PinParts::kPower);
+    PrintCellTail(os, cell);
+  });
+}

@@ -1,0 +1,3 @@
+# -timing wins over -power
+read_liberty rptlib_full.lib
+report_lib rptlib_full -power -timing

@@ -1,0 +1,2 @@
+read_liberty rptlib_full.lib
+report_lib rptlib_full -timing_arcs
