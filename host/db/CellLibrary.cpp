@@ -5,7 +5,6 @@
 #include "hostapi/cdm/HostServices.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
-#include "hostapi/cdm/Root.h"
 
 namespace cdm {
 
@@ -34,11 +33,6 @@ void Net::NetCapAndRes(const OperatingConditions*, float& wire_cap, float& resis
 
 bool DbManager::HasUnmappedGtechCell(const Design*) {
   return false;
-}
-
-// No generic library until the library classes are in.
-LibertyLib* Root::GetGenericLib() {
-  return generic_lib_;
 }
 
 }  // namespace cdm
