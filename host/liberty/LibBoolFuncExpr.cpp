@@ -1,0 +1,31 @@
+#include "hostapi/cdm/LibBoolFuncExpr.h"
+
+#include <algorithm>
+
+namespace cdm {
+
+LibBoolFuncExpr::LibBoolFuncExpr(std::string text, std::vector<Node> nodes, int root)
+    : text_(std::move(text)), nodes_(std::move(nodes)), root_(root) {
+  for (const Node& node : nodes_) {
+    if (node.op == Op::kPort &&
+        std::find(ports_.begin(), ports_.end(), node.port) == ports_.end()) {
+      ports_.push_back(node.port);
+    }
+  }
+}
+
+std::vector<bool> LibBoolFuncExpr::TruthTable() const {
+  std::vector<bool> table;
+  if (root_ < 0 || ports_.size() > 16) return table;
+  const size_t rows = size_t{1} << ports_.size();
+  table.reserve(rows);
+  for (size_t row = 0; row < rows; ++row) {
+    table.push_back(Evaluate([&](const LibPort* port) {
+      size_t bit = std::find(ports_.begin(), ports_.end(), port) - ports_.begin();
+      return static_cast<int>((row >> bit) & 1);
+    }));
+  }
+  return table;
+}
+
+}  // namespace cdm

@@ -1,0 +1,44 @@
+// The library half of the database root.
+#include "hostapi/cdm/LibertyLib.h"
+#include "hostapi/cdm/Root.h"
+#include "liberty/GenericLib.h"
+
+namespace cdm {
+
+LibertyLib* Root::GetLibertyLib(const std::string& name) const {
+  for (LibertyLib* lib : liberty_libs_) {
+    if (lib->Name() == name) return lib;
+  }
+  return nullptr;
+}
+
+Iterator<LibertyLib>* Root::LibertyLibIter() const {
+  return new VectorIterator<LibertyLib>(liberty_libs_);
+}
+
+LibertyLib* Root::AddLibertyLib(std::unique_ptr<LibertyLib> lib) {
+  LibertyLib* added = lib.get();
+  bool replaced = false;
+  for (LibertyLib*& existing : liberty_libs_) {
+    if (existing->Name() == added->Name()) {
+      if (default_liberty_ == existing) default_liberty_ = added;
+      existing = added;
+      replaced = true;
+    }
+  }
+  if (!replaced) liberty_libs_.push_back(added);
+  if (!default_liberty_) default_liberty_ = added;
+  Own(std::move(lib));
+  return added;
+}
+
+LibertyLib* Root::GetGenericLib() {
+  if (!generic_lib_) {
+    std::unique_ptr<LibertyLib> lib = liberty::MakeGenericLib(this);
+    generic_lib_ = lib.get();
+    Own(std::move(lib));
+  }
+  return generic_lib_;
+}
+
+}  // namespace cdm

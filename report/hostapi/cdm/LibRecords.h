@@ -1,0 +1,102 @@
+// Plain records of a technology library: operating conditions, wire loads,
+// table templates, user-defined attributes and scaling factors.
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "hostapi/cdm/LibEnums.h"
+
+namespace cdm {
+
+class OperatingConditions {
+ public:
+  std::string name;
+  float process = 1.0f;
+  float voltage = 0.0f;      // volts
+  float temperature = 0.0f;  // degrees Celsius
+  WireLoadTree tree = WireLoadTree::kUnknown;
+};
+
+// A `wire_load` group: per-unit-length resistance and capacitance as the
+// library writes them, and the fan-out to length table.
+class WireLoad {
+ public:
+  std::string name;
+  float resistance = 0.0f;
+  float capacitance = 0.0f;
+  float area = 0.0f;
+  float slope = 0.0f;
+  std::vector<std::pair<int, float>> points;  // fan-out, length
+
+  // The length for a fan-out: the table's entry, else extrapolated from
+  // the last entry with the slope.
+  float LengthFor(int fanout) const;
+};
+
+// A `lu_table_template` or `power_lut_template` group.
+class LibTableTemplate {
+ public:
+  LibTableTemplate(std::string template_name, TemplateClass template_class)
+      : name(std::move(template_name)), kind(template_class) {}
+
+  std::string name;
+  TemplateClass kind;
+  std::vector<TableAxisVariable> variables;
+  std::vector<std::vector<float>> indices;  // as written in the library
+
+  int GetAxisCount() const { return static_cast<int>(variables.size()); }
+  // Axis `i` counted from 1; kUnknown out of range.
+  TableAxisVariable GetVariableType(int i) const;
+  // A new vector owned by the caller; empty when the axis has no index.
+  std::vector<float>* GetOriginalIndex(int i) const;
+};
+
+// A `define (name, group, type)` of the library.
+class LibUserDefinedAttr {
+ public:
+  LibUserDefinedAttr(std::string attr_name, std::string group, std::string type)
+      : name_(std::move(attr_name)), group_(std::move(group)), type_(std::move(type)) {}
+  const std::string& GetName() const { return name_; }
+  const std::string& GetGroup() const { return group_; }  // "cell", "pin", ...
+  const std::string& GetType() const { return type_; }    // "float", "string", ...
+  // One line: "   <name>  <group>  <type>" and a newline.
+  std::string DumpSelf() const;
+
+ private:
+  std::string name_;
+  std::string group_;
+  std::string type_;
+};
+
+// A `scaling_factors` group, or the k-factors of the library itself.
+class LibScaleFactor {
+ public:
+  struct Factor {
+    ScaleFactorType type;
+    ScaleFactorPVT pvt;
+    int edge;  // 0 rise, 1 fall, -1 neither
+    float value;
+  };
+
+  explicit LibScaleFactor(std::string group_name) : name(std::move(group_name)) {}
+  std::string name;
+  std::vector<Factor> factors;  // in file order
+
+  // Value of one k-factor, or `fallback` when absent.
+  float Get(ScaleFactorType type, ScaleFactorPVT pvt, int edge, float fallback) const;
+  // One line per factor, indented: "k_<pvt>_<type>[_rise|_fall] : <value>".
+  // Returns the number of lines written.
+  int DumpSelfForReport(std::ostream& os, int indent) const;
+};
+
+// Parses a k-factor attribute name ("k_volt_cell_rise"); false if it is none.
+bool ParseScaleFactorName(const std::string& attr, LibScaleFactor::Factor& factor);
+
+}  // namespace cdm
+
+// Joins the values with `separator`, each in its shortest "%g" form.
+std::string floatlist2string(const std::vector<float>& values, char separator);

@@ -1,0 +1,139 @@
+// A technology library read from a Liberty file, or the built-in generic
+// library (which has no file). Values are SI; the units say how to print.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "hostapi/cdm/Iterator.h"
+#include "hostapi/cdm/Lib.h"
+#include "hostapi/cdm/LibCell.h"
+#include "hostapi/cdm/LibEnums.h"
+#include "hostapi/cdm/LibRecords.h"
+#include "hostapi/cdm/Selectors.h"
+#include "hostapi/cdm/Units.h"
+
+namespace cdm {
+
+class LibertyLib : public Lib {
+ public:
+  explicit LibertyLib(const std::string* name);
+  ~LibertyLib() override;
+
+  // Identity.
+  const std::string& GetDate() const { return date_; }
+  const std::string& GetRevision() const { return revision_; }
+  const std::string& GetComment() const { return comment_; }
+  const std::string& GetInPlaceSwapMode() const { return in_place_swap_mode_; }
+  char GetBusOpenChar() const { return bus_open_; }
+  char GetBusCloseChar() const { return bus_close_; }
+  const std::string& GetBusNamingStyle() const { return bus_naming_style_; }
+
+  // Units.
+  const LibUnits& GetUnits() const { return units_; }
+  const Unit& GetTimeUnit() const { return units_.time; }
+  const Unit& GetCapacitanceUnit() const { return units_.capacitance; }
+  const Unit& GetResistanceUnit() const { return units_.resistance; }
+
+  // Operating conditions.
+  std::vector<const OperatingConditions*> GetAllOperatingConditions() const;
+  const OperatingConditions* GetOperatingConditions(const std::string& name) const;
+  const OperatingConditions* GetDefaultOperatingConditions() const;
+
+  // Wire loads.
+  std::vector<const WireLoad*> GetAllWireLoads() const;
+  const WireLoad* GetWireLoad(const std::string& name) const;
+  const WireLoad* GetDefaultWireLoad() const;
+  WireLoadMode GetDefaultWireloadMode() const { return wire_load_mode_; }
+
+  // Thresholds, in percent as written.
+  float GetInputThreshold(const RiseFall* edge) const { return input_threshold_[edge->index()]; }
+  float GetOutputThreshold(const RiseFall* edge) const { return output_threshold_[edge->index()]; }
+  float GetSlewLowerThreshold(const RiseFall* edge) const { return slew_lower_[edge->index()]; }
+  float GetSlewUpperThreshold(const RiseFall* edge) const { return slew_upper_[edge->index()]; }
+  float GetSlewDerateFromLibrary() const { return slew_derate_; }
+  float GetNomVoltage() const { return nom_voltage_; }
+  float GetNomTemperature() const { return nom_temperature_; }
+  float GetNomProcess() const { return nom_process_; }
+  const std::map<std::string, float>& GetVoltageMap() const { return voltage_map_; }
+
+  // Models.
+  DelayModelType GetDelayModelType() const { return delay_model_; }
+  PowerModelType GetPowerModelType() const { return power_model_; }
+  std::vector<const LibTableTemplate*> GetAllTableTemplates(TemplateClass kind) const;
+  const LibTableTemplate* GetTableTemplate(TemplateClass kind, const std::string& name) const;
+
+  // Defaults: -1 when unset.
+  float GetDefaultMaxSlew() const { return default_max_slew_; }
+  float GetDefaultMaxFanout() const { return default_max_fanout_; }
+  float GetDefaultFanoutLoad() const { return default_fanout_load_; }
+  float GetDefaultMaxCapacitance() const { return default_max_capacitance_; }
+  float GetDefaultCellLeakagePower() const { return default_cell_leakage_power_; }
+  float GetDefaultLeakagePowerDensity() const { return default_leakage_power_density_; }
+  float GetDefaultInputPinCap() const { return default_input_pin_cap_; }
+  // The library's own k-factors; never null (possibly empty).
+  const LibScaleFactor* GetDefaultScaleFactorAttrs() const { return &default_scale_factors_; }
+  // `scaling_factors` groups by name.
+  const std::map<std::string, LibScaleFactor*>& GetScaleFactors() const {
+    return scale_factor_map_;
+  }
+  // `define (...)` attributes by name.
+  const std::map<std::string, LibUserDefinedAttr*>& GetUserDefinedAttrs() const {
+    return user_attr_map_;
+  }
+
+  // Cells, in file order.
+  LibCell* GetLibCell(const std::string& name) const;
+  Iterator<LibCell>* LibCellIter() const { return new VectorIterator<LibCell>(cells_); }
+  const std::vector<LibCell*>& GetLibCells() const { return cells_; }
+  uint32_t GetCellCount() const { return static_cast<uint32_t>(cells_.size()); }
+
+ private:
+  friend class LibEditor;  // the reader fills the fields
+  std::string date_;
+  std::string revision_;
+  std::string comment_;
+  std::string in_place_swap_mode_;
+  std::string bus_naming_style_ = "%s[%d]";
+  char bus_open_ = '[';
+  char bus_close_ = ']';
+  LibUnits units_;
+  std::vector<std::unique_ptr<OperatingConditions>> op_conds_;
+  std::string default_op_cond_;
+  std::vector<std::unique_ptr<WireLoad>> wire_loads_;
+  std::string default_wire_load_;
+  WireLoadMode wire_load_mode_ = WireLoadMode::kTop;
+  float input_threshold_[2] = {50.0f, 50.0f};
+  float output_threshold_[2] = {50.0f, 50.0f};
+  float slew_lower_[2] = {20.0f, 20.0f};
+  float slew_upper_[2] = {80.0f, 80.0f};
+  float slew_derate_ = 1.0f;
+  float nom_voltage_ = 0.0f;
+  float nom_temperature_ = 0.0f;
+  float nom_process_ = 1.0f;
+  std::map<std::string, float> voltage_map_;
+  DelayModelType delay_model_ = DelayModelType::kTableLookup;
+  PowerModelType power_model_ = PowerModelType::kTableLookup;
+  std::vector<std::unique_ptr<LibTableTemplate>> templates_;
+  float default_max_slew_ = -1.0f;
+  float default_max_fanout_ = -1.0f;
+  float default_fanout_load_ = -1.0f;
+  float default_max_capacitance_ = -1.0f;
+  float default_cell_leakage_power_ = -1.0f;
+  float default_leakage_power_density_ = -1.0f;
+  float default_input_pin_cap_ = -1.0f;
+  LibScaleFactor default_scale_factors_{""};
+  std::vector<std::unique_ptr<LibScaleFactor>> scale_factors_;
+  std::map<std::string, LibScaleFactor*> scale_factor_map_;
+  std::vector<std::unique_ptr<LibUserDefinedAttr>> user_attrs_;
+  std::map<std::string, LibUserDefinedAttr*> user_attr_map_;
+  std::vector<std::unique_ptr<LibCell>> owned_cells_;
+  std::vector<LibCell*> cells_;
+  std::unordered_map<std::string, LibCell*> cell_index_;
+};
+
+}  // namespace cdm
