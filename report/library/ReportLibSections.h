@@ -87,6 +87,9 @@ void PrintTimingGroupHead(std::ostream& os, cdm::LibertyLib* lib, cdm::LibPort* 
 // State tables.
 void PrintCellStateTable(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names, bool full);
 void PrintOneCellStateTable(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell, bool full);
+// The next-state column of one internal pin, packed or one line per row.
+void PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, size_t pin,
+                           bool full);
 
 // Side tables.
 void PrintNoiseInfo(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names);

@@ -65,9 +65,33 @@ std::string UsedInternalHeading(const cdm::LibStateTable* table, const std::vect
   return text;
 }
 
-void PrintInternalPin(std::ostream& os, const cdm::LibStateTable* table,
-                      const std::vector<int>& used, size_t pin, const std::string& heading,
-                      bool full) {
+void PrintStateTablePart(std::ostream& os, const cdm::LibStateTable* table,
+                         const std::vector<cdm::LibPort*>& outputs, bool full) {
+  for (cdm::LibPort* port : outputs) {
+    os << "  PIN(" << port->Name() << "):\n"
+       << "    STATE_FUNCTION: (";
+    std::string names;
+    if (const cdm::LibBoolFuncExpr* state = port->GetStateFunction()) {
+      for (const cdm::LibPort* function_port : state->GetFuncPorts()) {
+        if (!names.empty()) names += " ";
+        names += function_port->Name();
+      }
+    }
+    os << names << ")\n"
+       << "  END_PIN " << port->Name() << ";\n\n";
+  }
+  for (size_t pin = 0; pin < table->internal_ports.size(); ++pin) {
+    PrintInternalPinTable(os, table, pin, full);
+  }
+}
+
+}  // namespace
+
+void PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, size_t pin,
+                           bool full) {
+  const std::vector<int> used = table->GetUsedInternalPortsIndex();
+  std::string heading = InputHeading(table);
+  if (!used.empty()) heading += ", " + UsedInternalHeading(table, used);
   const size_t inputs = table->input_ports.size() + table->doubled_inputs.size();
   const uint32_t internals = static_cast<uint32_t>(table->internal_ports.size());
   os << "  INTERNAL PIN(" << table->internal_ports[pin]->Name() << "): " << heading << "\n";
@@ -107,31 +131,6 @@ void PrintInternalPin(std::ostream& os, const cdm::LibStateTable* table,
   if (!full) os << std::string(packed.rbegin(), packed.rend()) << "\n";
   os << "  END_PIN " << table->internal_ports[pin]->Name() << ";\n";
 }
-
-void PrintStateTablePart(std::ostream& os, const cdm::LibStateTable* table,
-                         const std::vector<cdm::LibPort*>& outputs, bool full) {
-  for (cdm::LibPort* port : outputs) {
-    os << "  PIN(" << port->Name() << "):\n"
-       << "    STATE_FUNCTION: (";
-    std::string names;
-    if (const cdm::LibBoolFuncExpr* state = port->GetStateFunction()) {
-      for (const cdm::LibPort* function_port : state->GetFuncPorts()) {
-        if (!names.empty()) names += " ";
-        names += function_port->Name();
-      }
-    }
-    os << names << ")\n"
-       << "  END_PIN " << port->Name() << ";\n\n";
-  }
-  const std::vector<int> used = table->GetUsedInternalPortsIndex();
-  std::string heading = InputHeading(table);
-  if (!used.empty()) heading += ", " + UsedInternalHeading(table, used);
-  for (size_t pin = 0; pin < table->internal_ports.size(); ++pin) {
-    PrintInternalPin(os, table, used, pin, heading, full);
-  }
-}
-
-}  // namespace
 
 void PrintCellStateTable(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names,
                          bool full) {
