@@ -104,9 +104,10 @@ bool SplitTclList(const std::string& text, std::vector<std::string>& items) {
   return true;
 }
 
-ParseOutcome ParseArguments(CommonCmd::State& state, const std::vector<std::string>& args) {
+namespace {
+
+ParseOutcome ParseInto(CommonCmd::State& state, const std::vector<std::string>& args) {
   ParseOutcome outcome;
-  state.ResetCall();
   std::vector<const OptionDecl*> positionals;
   for (const OptionDecl& decl : state.options)
     if (decl.positional) positionals.push_back(&decl);
@@ -155,6 +156,15 @@ ParseOutcome ParseArguments(CommonCmd::State& state, const std::vector<std::stri
       return outcome;
     }
   }
+  return outcome;
+}
+
+}  // namespace
+
+ParseOutcome ParseArguments(CommonCmd::State& state, const std::vector<std::string>& args) {
+  state.ResetCall();
+  ParseOutcome outcome = ParseInto(state, args);
+  if (!outcome.ok) state.ResetCall();  // a refused call leaves no values behind
   return outcome;
 }
 

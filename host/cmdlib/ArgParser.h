@@ -10,8 +10,8 @@ namespace cmdlib {
 
 struct ParseOutcome {
   bool ok = true;
-  bool help = false;   // -help was given: print the usage and nothing else
-  std::string error;   // when !ok: "<command>: <what is wrong>"
+  bool help = false;  // -help was given: print the usage and nothing else
+  std::string error;  // when !ok: "<command>: <what is wrong>"
 };
 
 // Options by dash name or unique prefix; positional options in declaration

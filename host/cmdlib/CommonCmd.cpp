@@ -77,7 +77,9 @@ int CommonCmd::getOptionCount(std::string name) {
   return found == state_->parsed.end() ? 0 : found->second.count;
 }
 
-bool CommonCmd::getOptionValue(const std::string& name) { return getOptionCount(name) > 0; }
+bool CommonCmd::getOptionValue(const std::string& name) {
+  return getOptionCount(name) > 0;
+}
 
 bool CommonCmd::getOptionValue(const std::string& name, boost::any& value) {
   auto found = state_->parsed.find(name);
@@ -89,8 +91,12 @@ bool CommonCmd::getOptionValue(const std::string& name, boost::any& value) {
   return decl && DefaultAsValue(*decl, value);
 }
 
-const std::string& CommonCmd::name() const { return state_->name; }
-const std::string& CommonCmd::description() const { return state_->description; }
+const std::string& CommonCmd::name() const {
+  return state_->name;
+}
+const std::string& CommonCmd::description() const {
+  return state_->description;
+}
 
 void CommonCmd::SetTclResult(std::string value) {
   state_->has_result = true;

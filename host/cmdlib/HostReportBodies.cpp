@@ -2,7 +2,15 @@
 // reports are not written yet: they print nothing and fail.
 #include "hostapi/cmd/HostReportCmds.h"
 
-int ReportDesignCmd::exec() { return 1; }
-int ReportDesignCmd::postExec() { return 0; }
-int ReportConstraintCmd::exec() { return 1; }
-int ReportConstraintCmd::postExec() { return 0; }
+int ReportDesignCmd::exec() {
+  return 1;
+}
+int ReportDesignCmd::postExec() {
+  return 0;
+}
+int ReportConstraintCmd::exec() {
+  return 1;
+}
+int ReportConstraintCmd::postExec() {
+  return 0;
+}

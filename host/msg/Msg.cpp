@@ -18,8 +18,7 @@ const char* const kTagNames[] = {
 #include "hostapi/msg/MsgTags.def"
 #undef MSG_TAG
 };
-static_assert(sizeof(kTagNames) / sizeof(kTagNames[0]) == MSG_TAG_COUNT,
-              "one name per tag");
+static_assert(sizeof(kTagNames) / sizeof(kTagNames[0]) == MSG_TAG_COUNT, "one name per tag");
 
 std::vector<ResultSink>& Sinks() {
   static std::vector<ResultSink> sinks;
@@ -45,7 +44,9 @@ const char* TagName(MsgTag tag) {
   return kTagNames[tag];
 }
 
-void PushResultSink(ResultSink sink) { Sinks().push_back(std::move(sink)); }
+void PushResultSink(ResultSink sink) {
+  Sinks().push_back(std::move(sink));
+}
 
 void PopResultSink() {
   if (!Sinks().empty()) Sinks().pop_back();
@@ -71,7 +72,9 @@ void Print_Result(const char* format, ...) {
   WriteResult(text);
 }
 
-void InsertEmptyLine() { WriteResult("\n"); }
+void InsertEmptyLine() {
+  WriteResult("\n");
+}
 
 void ReportMsg(MsgTag tag, ...) {
   const CatalogueEntry* entry = FindCatalogueEntry(tag);
@@ -84,8 +87,8 @@ void ReportMsg(MsgTag tag, ...) {
   } else {
     body = "message without catalogue text";
   }
-  std::string line = std::string(SeverityWord(entry ? entry->severity : Severity::kError)) +
-                     ": " + body + " (" + TagName(tag) + ")\n";
+  std::string line = std::string(SeverityWord(entry ? entry->severity : Severity::kError)) + ": " +
+                     body + " (" + TagName(tag) + ")\n";
   WriteResult(line);
 }
 

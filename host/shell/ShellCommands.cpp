@@ -74,10 +74,9 @@ int HelpCmd(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]
 }
 
 int RedirectUsageError(Tcl_Interp* interp) {
-  Tcl_SetObjResult(interp,
-                   Tcl_NewStringObj("Error: redirect: usage: redirect ?-append? ?-tee? "
-                                    "?-variable? target script",
-                                    -1));
+  Tcl_SetObjResult(interp, Tcl_NewStringObj("Error: redirect: usage: redirect ?-append? ?-tee? "
+                                            "?-variable? target script",
+                                            -1));
   return TCL_ERROR;
 }
 

@@ -42,13 +42,15 @@ void ReportTclError(Tcl_Interp* interp, bool command_string = false) {
   FlushTclStdout();
   const char* info = Tcl_GetVar(interp, "errorInfo", TCL_GLOBAL_ONLY);
   std::fprintf(stderr, "%s\n", info ? info : Tcl_GetStringResult(interp));
-  if (command_string) std::fprintf(stderr, "    (command string line %d)\n", Tcl_GetErrorLine(interp));
+  if (command_string)
+    std::fprintf(stderr, "    (command string line %d)\n", Tcl_GetErrorLine(interp));
   std::fflush(stderr);
 }
 
 void SetArgv(Tcl_Interp* interp, const char* argv0, int argc, char** argv) {
   Tcl_Obj* list = Tcl_NewListObj(0, nullptr);
-  for (int i = 0; i < argc; ++i) Tcl_ListObjAppendElement(interp, list, Tcl_NewStringObj(argv[i], -1));
+  for (int i = 0; i < argc; ++i)
+    Tcl_ListObjAppendElement(interp, list, Tcl_NewStringObj(argv[i], -1));
   Tcl_SetVar2Ex(interp, "argv", nullptr, list, TCL_GLOBAL_ONLY);
   Tcl_SetVar2Ex(interp, "argc", nullptr, Tcl_NewIntObj(argc), TCL_GLOBAL_ONLY);
   Tcl_SetVar2Ex(interp, "argv0", nullptr, Tcl_NewStringObj(argv0, -1), TCL_GLOBAL_ONLY);
@@ -99,7 +101,8 @@ int RunInteractive(Tcl_Interp* interp) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc >= 2 && (std::strcmp(argv[1], "-version") == 0 || std::strcmp(argv[1], "--version") == 0)) {
+  if (argc >= 2 &&
+      (std::strcmp(argv[1], "-version") == 0 || std::strcmp(argv[1], "--version") == 0)) {
     std::printf("%s\n", kVersion);
     return 0;
   }

@@ -2,7 +2,10 @@
 
 #include <cstdio>
 
-// Usage texts, fixed as the user sees them.
+// Usage texts, fixed as the user sees them: one source line per printed
+// line, so they are kept out of the formatter's reach.
+
+// clang-format off
 
 void CheckDesignCmd::printUsage() {
   std::fputs("Usage: check_design    #  Checks the current design for consistency.\n"
@@ -226,3 +229,4 @@ void ReportUnitsCmd::printUsage() {
   std::fputs("Usage: report_units    #  displays the units used by the current design.\n",
              stdout);
 }
+// clang-format on
