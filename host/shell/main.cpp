@@ -88,7 +88,13 @@ int RunInteractive(Tcl_Interp* interp) {
     command.clear();
     FlushTclStdout();
     if (code != TCL_OK) {
-      ReportTclError(interp);
+      if (terminal) {
+        // At the prompt the message is enough; the trace is in $errorInfo.
+        std::fprintf(stderr, "%s\n", Tcl_GetStringResult(interp));
+        std::fflush(stderr);
+      } else {
+        ReportTclError(interp);
+      }
       status = 1;
       continue;
     }
@@ -112,6 +118,12 @@ int main(int argc, char** argv) {
   }
   if (argc >= 2 && std::strcmp(argv[1], "-c") == 0 && argc < 3) {
     std::fprintf(stderr, "kelvo: -c needs a command string\n");
+    return 1;
+  }
+  // A script name never starts with a dash here; a mistyped option would
+  // otherwise read as a missing script.
+  if (argc >= 2 && argv[1][0] == '-' && std::strcmp(argv[1], "-c") != 0) {
+    std::fprintf(stderr, "kelvo: unknown option '%s' (kelvo -help lists the options)\n", argv[1]);
     return 1;
   }
 

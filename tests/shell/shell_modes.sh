@@ -21,10 +21,23 @@ check dash_c "3" "$("$kelvo" -c 'puts [expr {1 + 2}]')"
 check dash_c_error_status 1 $?
 grep -q boom "$tmp/err" || { echo "FAIL dash_c_error_message"; failures=$((failures + 1)); }
 
+"$kelvo" -c 'puts a
+report_bus -zz' >/dev/null 2>"$tmp/err"
+check dash_c_bad_option_status 1 $?
+grep -q "report_bus: unknown option '-zz'" "$tmp/err" || { echo "FAIL dash_c_bad_option_message"; failures=$((failures + 1)); }
+grep -q "command string line 2" "$tmp/err" || { echo "FAIL dash_c_error_line"; failures=$((failures + 1)); }
+"$kelvo" -bogus >"$tmp/out" 2>"$tmp/err"
+check unknown_shell_option_status 1 $?
+grep -q -- "-bogus" "$tmp/err" || { echo "FAIL unknown_shell_option_message"; failures=$((failures + 1)); }
+
 printf 'puts "args: $argc [lindex $argv 1]"\n' >"$tmp/s.tcl"
 check script_args "args: 2 two" "$("$kelvo" "$tmp/s.tcl" one two)"
 "$kelvo" "$tmp/missing.tcl" >/dev/null 2>&1
 check missing_script_status 1 $?
+printf 'puts one\nexit 3\nputs two\n' >"$tmp/x.tcl"
+check script_exit_output "one" "$("$kelvo" "$tmp/x.tcl")"
+"$kelvo" "$tmp/x.tcl" >/dev/null
+check script_exit_status 3 $?
 
 # Commands on standard input: no prompt, results not echoed, status of the last failure.
 check stdin "hi" "$(printf 'puts hi\nset x 5\n' | "$kelvo")"
@@ -49,6 +62,9 @@ check redirect_quiet "" "$(cat "$tmp/screen")"
 check redirect_tee 1 "$("$kelvo" -c 'redirect -tee t.txt {report_buffer_tree -from a -net b}' | wc -l)"
 "$kelvo" -c 'catch {redirect r.txt {error inside}}; report_buffer_tree -from a -net b' >"$tmp/screen"
 check redirect_restored 1 "$(wc -l <"$tmp/screen")"
+"$kelvo" -c 'redirect /nonexistent/dir/r.txt {puts ran}' >"$tmp/screen" 2>/dev/null
+check redirect_bad_target_status 1 $?
+check redirect_bad_target_runs_nothing "" "$(cat "$tmp/screen")"
 
 if [ "$failures" -ne 0 ]; then
   echo "$failures shell checks failed"
