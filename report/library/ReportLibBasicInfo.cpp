@@ -9,15 +9,14 @@
 
 namespace {
 
+// Wire-load resistance and capacitance are kept in the library's own units
+// (per unit length), which is what the block shows.
 void PrintOneWireLoad(std::ostream& os, cdm::LibertyLib* lib, const cdm::WireLoad* wire_load) {
-  const cdm::LibUnits& units = lib->GetUnits();
   os << "\n"
      << "Name           :" << wire_load->name << "\n"
      << "Location       :" << lib->Name() << "\n"
-     << "Resistance     :" << std::fixed << std::setprecision(8)
-     << wire_load->resistance / units.resistance.scale << "\n"
-     << "Capacitance    :" << std::fixed << std::setprecision(8)
-     << wire_load->capacitance / units.capacitance.scale << "\n"
+     << "Resistance     :" << std::fixed << std::setprecision(8) << wire_load->resistance << "\n"
+     << "Capacitance    :" << std::fixed << std::setprecision(8) << wire_load->capacitance << "\n"
      << "Area           :" << 0 << "\n"
      << "Slope          :" << wire_load->slope << "\n"
      << "Fanout   Length   Points Average Cap Std Deviation\n"
