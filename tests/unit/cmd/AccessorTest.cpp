@@ -1,6 +1,8 @@
 // What report commands read from a parsed call through their accessors.
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "cmd/TclCmd.h"
 #include "cmdlib/ArgParser.h"
 
@@ -37,6 +39,79 @@ TEST(Accessors, IntegerFallsBackWhenAbsent) {
   auto& port = Command<ReportPortCmd>("report_port");
   ASSERT_TRUE(Parse(port, {}).ok);
   EXPECT_EQ(port.getSignificantDigits(), 2);
+}
+
+// Every integer accessor of the module: its fallback when the option is
+// absent, whether a declared default shows in the optional, and that a
+// given value wins.
+TEST(Accessors, EveryIntegerFallback) {
+  struct Case {
+    const char* what;
+    std::function<cmdlib::ParseOutcome(std::vector<std::string>)> parse;
+    std::function<int()> get;
+    std::function<std::optional<int>()> optional;
+    const char* option;
+    int fallback;
+    bool declared_default;
+  };
+  auto& fanin = Command<GetFaninPinsCmd>("get_fanin_pins");
+  auto& fanout = Command<GetFanoutPinsCmd>("get_fanout_pins");
+  auto& constraint = Command<ReportConstraintCmd>("report_constraint");
+  auto& port = Command<ReportPortCmd>("report_port");
+  auto& cell = Command<ReportCellCmd>("report_cell");
+  auto& net = Command<ReportNetCmd>("report_net");
+  auto& fanouts = Command<ReportNetFanoutCmd>("report_net_fanout");
+  auto& tree = Command<ReportBufferTreeCmd>("report_buffer_tree");
+  auto parser = [](CommonCmd& cmd) {
+    return [&cmd](std::vector<std::string> args) { return Parse(cmd, std::move(args)); };
+  };
+  const std::vector<Case> cases = {
+      {"fanin level", parser(fanin), [&] { return fanin.getLevel(); },
+       [&] { return fanin.getLevelOptional(); }, "-level", 1, true},
+      {"fanout level", parser(fanout), [&] { return fanout.getLevel(); },
+       [&] { return fanout.getLevelOptional(); }, "-level", 1, true},
+      {"constraint digits", parser(constraint), [&] { return constraint.getSignificantDigits(); },
+       [&] { return constraint.getSignificantDigitsOptional(); }, "-significant_digits", 2, true},
+      {"port digits", parser(port), [&] { return port.getSignificantDigits(); },
+       [&] { return port.getSignificantDigitsOptional(); }, "-significant_digits", 2, true},
+      {"cell digits", parser(cell), [&] { return cell.getSignificantDigits(); },
+       [&] { return cell.getSignificantDigitsOptional(); }, "-significant_digits", 0, false},
+      {"net digits", parser(net), [&] { return net.getSignificantDigits(); },
+       [&] { return net.getSignificantDigitsOptional(); }, "-significant_digits", 0, false},
+      {"net threshold", parser(net), [&] { return net.getThreshold(); },
+       [&] { return net.getThresholdOptional(); }, "-threshold", 0, false},
+      {"fanout threshold", parser(fanouts), [&] { return fanouts.getThreshold(); },
+       [&] { return fanouts.getThresholdOptional(); }, "-threshold", 0, false},
+      {"fanout bound", parser(fanouts), [&] { return fanouts.getBound(); },
+       [&] { return fanouts.getBoundOptional(); }, "-bound", 0, false},
+      {"fanout depth", parser(fanouts), [&] { return fanouts.getDepth(); },
+       [&] { return fanouts.getDepthOptional(); }, "-depth", 0, false},
+      {"tree depth", parser(tree), [&] { return tree.getDepth(); },
+       [&] { return tree.getDepthOptional(); }, "-depth", 0, false},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    ASSERT_TRUE(c.parse({}).ok);
+    EXPECT_EQ(c.get(), c.fallback);
+    EXPECT_EQ(c.optional().has_value(), c.declared_default);
+    if (c.declared_default) {
+      EXPECT_EQ(*c.optional(), c.fallback);
+    }
+    ASSERT_TRUE(c.parse({c.option, "7"}).ok);
+    EXPECT_EQ(c.get(), 7);
+    ASSERT_TRUE(c.optional().has_value());
+    EXPECT_EQ(*c.optional(), 7);
+  }
+}
+
+TEST(Accessors, DashListsAbsentAreEmpty) {
+  auto& tree = Command<ReportBufferTreeCmd>("report_buffer_tree");
+  ASSERT_TRUE(Parse(tree, {"-net", "n1"}).ok);
+  EXPECT_TRUE(tree.getFrom().empty());
+  EXPECT_FALSE(tree.getFromOptional().has_value());
+  EXPECT_EQ(tree.getNet(), (std::vector<std::string>{"n1"}));
+  ASSERT_TRUE(tree.getNetOptional().has_value());
+  EXPECT_FALSE(tree.getConnectionsOptional().value());
 }
 
 TEST(Accessors, FlagOptionalIsAlwaysEngaged) {
