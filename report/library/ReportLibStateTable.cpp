@@ -1,6 +1,7 @@
 // State tables of report_lib: per sequential cell its outputs with their
 // state functions and, per internal pin, the next-state column of the table.
 #include <cstdint>
+#include <stdexcept>
 
 #include "library/ReportLibSections.h"
 
@@ -103,7 +104,11 @@ void PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, si
   if (full) os << "\n";
   std::string packed;
   const auto cell_text = [&](uint32_t index) -> const std::string& {
-    return table->expanded_rows.at(index).at(pin);
+    if (index >= table->expanded_rows.size()) {
+      throw std::out_of_range("state table row " + std::to_string(index) + " is beyond the " +
+                              std::to_string(table->expanded_rows.size()) + " rows of the table");
+    }
+    return table->expanded_rows[index].at(pin);
   };
   for (const std::string& input : input_patterns) {
     uint32_t index = static_cast<uint32_t>(std::stoi(input, nullptr, 2)) << (internals % 32);

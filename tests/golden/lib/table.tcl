@@ -1,4 +1,10 @@
+# packed state tables: sequential groups, a state table without used
+# internal pins, one that reads its own state through an edge input
 read_liberty rptlib_full.lib
 read_liberty rptlib_plain.lib
 report_lib rptlib_full -table
-report_lib rptlib_plain -table
+report_lib rptlib_plain -table {BUFX2 EDGEFF}
+# two internal pins read back: the running row sum overruns the table,
+# which ends the command with an error and prints nothing
+puts "failed: [catch {report_lib rptlib_plain -table JKST} message]"
+puts $message
