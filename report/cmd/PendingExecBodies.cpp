@@ -5,14 +5,9 @@
 
 int GetFaninPinsCmd::exec() { return 1; }
 int GetFanoutPinsCmd::exec() { return 1; }
-int ReportAreaCmd::exec() { return 1; }
 int ReportBufferTreeCmd::exec() { return 1; }
-int ReportBusCmd::exec() { return 1; }
-int ReportCellCmd::exec() { return 1; }
-int ReportHierarchyCmd::exec() { return 1; }
 int ReportNetCmd::exec() { return 1; }
 int ReportNetFanoutCmd::exec() { return 1; }
 int ReportPortCmd::exec() { return 1; }
-int ReportReferenceCmd::exec() { return 1; }
 int ReportUnitsCmd::exec() { return 1; }
 int ReportNetFanoutCmd::postExec() { return 0; }

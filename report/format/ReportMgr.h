@@ -32,10 +32,6 @@ class ReportTable {
                    const std::string& group = "");
   void InsertValue(const std::string& name, const double& value, int digits,
                    const std::string& group = "");
-  // Avoids the ambiguity of a string literal between the text and int forms.
-  void InsertValue(const std::string& name, const char* value, const std::string& group = "") {
-    InsertValue(name, std::string(value), group);
-  }
 
   void InsertSeparator(const char& fill);
   void PopBack();

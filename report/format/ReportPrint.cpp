@@ -97,7 +97,8 @@ void ReportPrint::RemoveTrailingWhitespaceAndPrint(std::string& line) {
 
 void ReportPrint::PrintTable(int indent, bool print_if_empty) {
   msg::InsertEmptyLine();
-  if (row_count_ == 0 && !print_if_empty) {
+  // A table without columns (also one printed before) has no line to show.
+  if ((row_count_ == 0 && !print_if_empty) || columns_.empty()) {
     Clear();
     return;
   }
