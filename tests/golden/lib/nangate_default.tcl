@@ -1,0 +1,2 @@
+read_liberty nangate45_typ.lib.gz
+report_lib NangateOpenCellLibrary
