@@ -1,42 +1,103 @@
-// What the design objects ask of the library behind a cell. Interim: the
-// library classes are not in yet, so every cell reads as having none.
+// What the design objects ask of the library behind a cell: tie and
+// generic cells, pin capacitance, the paths through a cell, wire estimates.
+#include <algorithm>
+#include <memory>
+
+#include "db/FlatNet.h"
+#include "db/Netlist.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
-#include "hostapi/cdm/HostServices.h"
+#include "hostapi/cdm/Design.h"
+#include "hostapi/cdm/LibCell.h"
+#include "hostapi/cdm/LibPort.h"
+#include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
 
 namespace cdm {
+namespace {
+
+// The library port and cell of a leaf pin; null for other pins.
+LibPort* LibPortOf(const Pin* pin) {
+  Cell* cell = pin->GetCell();
+  if (!cell || !cell->GetRefLibCell()) return nullptr;
+  return dynamic_cast<LibPort*>(pin->GetPort());
+}
+
+}  // namespace
 
 bool Cell::IsConstCell() const {
-  return false;
-}
-bool Cell::IsGTechCell() const {
-  return false;
+  return lib_cell_ && lib_cell_->GetConstOutputValue() >= 0;
 }
 
-float Pin::Capacitance(const RiseFall*, const MinMax*) const {
-  return 0.0f;
+bool Cell::IsGTechCell() const {
+  return lib_cell_ && lib_cell_->GetLibertyLib() == DbManager::GetGenericLib();
 }
-Pin* Pin::GetInputOutputPin(bool) const {
+
+float Pin::Capacitance(const RiseFall* edge, const MinMax* minmax) const {
+  LibPort* port = LibPortOf(this);
+  if (!port) return 0.0f;
+  return std::max(0.0f, port->GetCapacitance(edge, minmax));
+}
+
+Pin* Pin::GetInputOutputPin(bool through_sequential) const {
+  LibPort* port = LibPortOf(this);
+  if (!port || port->direction != kDirInput) return nullptr;
+  LibCell* lib_cell = cell_->GetRefLibCell();
+  if (lib_cell->IsSequentialCell() && !through_sequential) return nullptr;
+  for (LibPort* out : lib_cell->GetCellToPorts(port))
+    if (Pin* pin = cell_->FindPin(out->Name())) return pin;
   return nullptr;
 }
-std::vector<Pin*> Pin::GetOutputInputPins(bool) const {
-  return {};
+
+std::vector<Pin*> Pin::GetOutputInputPins(bool through_sequential) const {
+  std::vector<Pin*> inputs;
+  LibPort* port = LibPortOf(this);
+  if (!port || !port->IsOutput()) return inputs;
+  LibCell* lib_cell = cell_->GetRefLibCell();
+  if (lib_cell->IsSequentialCell() && !through_sequential) return inputs;
+  for (uint32_t i = 0; i < cell_->PinCount(); ++i) {
+    Pin* pin = cell_->GetPin(i);
+    LibPort* input = dynamic_cast<LibPort*>(pin->GetPort());
+    if (!input || input->direction != kDirInput) continue;
+    std::vector<LibPort*> outs = lib_cell->GetCellToPorts(input);
+    if (std::find(outs.begin(), outs.end(), port) != outs.end()) inputs.push_back(pin);
+  }
+  return inputs;
 }
 
 void Net::NetCapAndRes(const OperatingConditions*, float& wire_cap, float& resistance,
                        const MinMax*, HierarchyMode) const {
   wire_cap = 0.0f;
   resistance = 0.0f;
+  LibertyLib* lib = DbManager::GetDefaultLiberty();
+  const WireLoad* wire_load = lib ? lib->GetDefaultWireLoad() : nullptr;
+  if (!wire_load) return;
+  int fanout = 0;
+  WalkFlatNet(this, false, [&](Pin* pin) {
+    if (pin->IsNetLoad() && !pin->IsNetDriver()) ++fanout;
+  });
+  if (fanout == 0) return;
+  float length = wire_load->LengthFor(fanout);
+  const LibUnits& units = lib->GetUnits();
+  wire_cap = length * wire_load->capacitance * units.capacitance.scale;
+  resistance = length * wire_load->resistance * units.resistance.scale;
 }
 
-bool DbManager::HasUnmappedGtechCell(const Design*) {
+namespace {
+
+bool HasGtechCell(const Netlist* netlist) {
+  for (const Cell& cell : netlist->Cells()) {
+    if (cell.IsGTechCell()) return true;
+    if (cell.GetChildNetlist() && HasGtechCell(cell.GetChildNetlist())) return true;
+  }
   return false;
 }
 
-}  // namespace cdm
+}  // namespace
 
-namespace common {
-void EnsureGtechReportReady(cdm::Design*) {}
-}  // namespace common
+bool DbManager::HasUnmappedGtechCell(const Design* design) {
+  return design && HasGtechCell(design->GetNetlist());
+}
+
+}  // namespace cdm

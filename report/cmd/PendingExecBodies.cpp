@@ -9,5 +9,4 @@ int ReportBufferTreeCmd::exec() { return 1; }
 int ReportNetCmd::exec() { return 1; }
 int ReportNetFanoutCmd::exec() { return 1; }
 int ReportPortCmd::exec() { return 1; }
-int ReportUnitsCmd::exec() { return 1; }
 int ReportNetFanoutCmd::postExec() { return 0; }

@@ -1,2 +1,2 @@
-# No design: the one sentence and a failure.
-report_units
+# No design: the one sentence, no banner, and status 1.
+puts "status: [report_units]"
