@@ -1,0 +1,2 @@
+# Without a design the banner stops after its option lines.
+puts "status [report_hierarchy -noleaf]"

@@ -1,0 +1,2 @@
+# Without a design nothing but the complaint.
+puts "status [report_reference]"
