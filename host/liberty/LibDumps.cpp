@@ -10,8 +10,6 @@
 
 namespace cdm {
 
-namespace {
-
 const Unit& AxisUnit(TableAxisVariable variable, const LibUnits& units) {
   switch (variable) {
     case TableAxisVariable::kInputNetTransition:
@@ -36,6 +34,8 @@ const Unit& AxisUnit(TableAxisVariable variable, const LibUnits& units) {
       return units.scalar;
   }
 }
+
+namespace {
 
 std::string Join(const std::vector<float>& values, size_t from, size_t count, float scale) {
   std::string text;

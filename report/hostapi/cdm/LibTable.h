@@ -41,4 +41,8 @@ class LibTable {
   std::vector<float> values_;
 };
 
+// The unit in which the values of an axis variable are written: time for
+// transitions, capacitance for loads, voltage for voltages, else plain.
+const Unit& AxisUnit(TableAxisVariable variable, const LibUnits& units);
+
 }  // namespace cdm

@@ -1,0 +1,54 @@
+// Loads a Liberty file, plain or gzip-compressed, into memory in one piece.
+#include <zlib.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include "liberty/LibertyTree.h"
+
+namespace liberty {
+
+bool ReadFileToBuffer(const std::string& path, std::string& buffer, std::string& error) {
+  // gzopen reads plain files unchanged, so one path serves both forms.
+  FILE* probe = std::fopen(path.c_str(), "rb");
+  if (!probe) {
+    error = "cannot open '" + path + "': " + std::strerror(errno);
+    return false;
+  }
+  std::fclose(probe);
+  gzFile file = gzopen(path.c_str(), "rb");
+  if (!file) {
+    error = "cannot open '" + path + "'";
+    return false;
+  }
+  gzbuffer(file, 1 << 18);
+  buffer.clear();
+  size_t used = 0;
+  size_t capacity = 1 << 20;
+  for (;;) {
+    buffer.resize(capacity);
+    const size_t want = capacity - used;
+    const int got =
+        gzread(file, &buffer[used], static_cast<unsigned>(want > (1u << 30) ? (1u << 30) : want));
+    if (got < 0) {
+      int code = 0;
+      const char* message = gzerror(file, &code);
+      error = "cannot read '" + path + "': " + (message ? message : "read error");
+      gzclose(file);
+      return false;
+    }
+    used += static_cast<size_t>(got);
+    if (got == 0) break;
+    if (used == capacity) capacity *= 2;
+  }
+  buffer.resize(used);
+  gzclose(file);
+  if (buffer.find('\0') != std::string::npos) {
+    error = "'" + path + "' is not a text file";
+    return false;
+  }
+  return true;
+}
+
+}  // namespace liberty

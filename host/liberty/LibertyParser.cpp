@@ -1,0 +1,285 @@
+// Hand-written tokenizer and recursive-descent reader over one buffer.
+#include <cstdint>
+#include <cstring>
+
+#include "liberty/LibertyTree.h"
+
+namespace liberty {
+
+namespace {
+
+class Parser {
+ public:
+  Parser(LibTree& tree, const std::string& file) : tree_(tree), file_(file) {
+    p_ = tree.buffer.data();
+    end_ = p_ + tree.buffer.size();
+  }
+
+  bool Run(std::string& error) {
+    SkipBlank();
+    if (p_ == end_) return Fail("expected a 'library' group, found the end of the file", error);
+    if (!ParseStatement(tree_.root, 0)) return Fail(error_, error);
+    if (tree_.root.kind != LibStatement::Kind::kGroup || tree_.root.name != "library") {
+      line_ = tree_.root.line;
+      return Fail("expected a 'library' group, found '" + std::string(tree_.root.name) + "'",
+                  error);
+    }
+    SkipBlank();
+    if (p_ != end_)
+      return Fail("expected the end of the file after the library group, found " + Found(), error);
+    return true;
+  }
+
+ private:
+  bool Fail(const std::string& what, std::string& error) {
+    error = file_ + ", line " + std::to_string(line_) + ": " + what;
+    return false;
+  }
+  bool Error(std::string what) {
+    error_ = std::move(what);
+    return false;
+  }
+
+  static bool IsWordChar(char c) {
+    switch (c) {
+      case ' ':
+      case '\t':
+      case '\r':
+      case '\n':
+      case '\f':
+      case '\v':
+      case '(':
+      case ')':
+      case '{':
+      case '}':
+      case ':':
+      case ';':
+      case ',':
+      case '"':
+        return false;
+      default:
+        return true;
+    }
+  }
+
+  // Skips blanks, newlines, comments and backslash line continuations.
+  void SkipBlank() {
+    while (p_ < end_) {
+      const char c = *p_;
+      if (c == '\n') {
+        ++line_;
+        ++p_;
+      } else if (c == ' ' || c == '\t' || c == '\r' || c == '\f' || c == '\v') {
+        ++p_;
+      } else if (c == '\\' && IsContinuation(p_)) {
+        ++p_;
+      } else if (c == '/' && p_ + 1 < end_ && p_[1] == '*') {
+        const char* start = p_;
+        const int start_line = line_;
+        p_ += 2;
+        while (p_ + 1 < end_ && !(p_[0] == '*' && p_[1] == '/')) {
+          if (*p_ == '\n') ++line_;
+          ++p_;
+        }
+        if (p_ + 1 >= end_) {
+          p_ = start;
+          unterminated_comment_line_ = start_line;
+          return;
+        }
+        p_ += 2;
+      } else if (c == '/' && p_ + 1 < end_ && p_[1] == '/') {
+        while (p_ < end_ && *p_ != '\n') ++p_;
+      } else {
+        return;
+      }
+    }
+  }
+
+  // A backslash followed by blanks up to the end of the line.
+  bool IsContinuation(const char* at) const {
+    const char* q = at + 1;
+    while (q < end_ && (*q == ' ' || *q == '\t' || *q == '\r')) ++q;
+    return q == end_ || *q == '\n';
+  }
+
+  std::string Found() {
+    if (unterminated_comment_line_) return "an unterminated comment";
+    if (p_ == end_) return "the end of the file";
+    if (*p_ == '"') return "a quoted string";
+    if (!IsWordChar(*p_)) return std::string("'") + *p_ + "'";
+    const char* q = p_;
+    while (q < end_ && IsWordChar(*q) && q - p_ < 40) ++q;
+    return "'" + std::string(p_, q) + "'";
+  }
+
+  bool ReadWord(std::string_view& word) {
+    const char* start = p_;
+    while (p_ < end_ && IsWordChar(*p_)) {
+      if (*p_ == '\\' && IsContinuation(p_)) break;
+      ++p_;
+    }
+    word = std::string_view(start, p_ - start);
+    return p_ > start;
+  }
+
+  bool ReadQuoted(LibValue& value) {
+    const int start_line = line_;
+    const char* start = ++p_;
+    bool continued = false;
+    while (p_ < end_ && *p_ != '"') {
+      if (*p_ == '\\' && IsContinuation(p_)) continued = true;
+      if (*p_ == '\\' && p_ + 1 < end_ && p_[1] == '"') ++p_;
+      if (*p_ == '\n') ++line_;
+      ++p_;
+    }
+    if (p_ == end_) {
+      line_ = start_line;
+      return Error("expected the closing '\"' of a string opened here, found the end of the file");
+    }
+    value.quoted = true;
+    value.text = std::string_view(start, p_ - start);
+    ++p_;
+    if (continued) {
+      // Drop each backslash and the line break behind it.
+      std::string joined;
+      for (const char* q = start; q < p_ - 1; ++q) {
+        if (*q == '\\' && IsContinuation(q)) {
+          while (*q != '\n' && q < p_ - 1) ++q;
+          continue;
+        }
+        joined += *q;
+      }
+      tree_.owned.push_back(std::move(joined));
+      value.text = tree_.owned.back();
+    }
+    return true;
+  }
+
+  // A value: a quoted string or a word. Words may be joined by blanks into
+  // one value ("A & B" unquoted) up to the next delimiter.
+  bool ReadValue(LibValue& value, const char* context) {
+    SkipBlank();
+    if (p_ == end_) return Error(std::string("expected ") + context + ", found " + Found());
+    if (*p_ == '"') return ReadQuoted(value);
+    const char* start = p_;
+    std::string_view word;
+    if (!ReadWord(word)) return Error(std::string("expected ") + context + ", found " + Found());
+    const char* last = p_;
+    for (;;) {
+      const char* save = p_;
+      const int save_line = line_;
+      while (p_ < end_ && (*p_ == ' ' || *p_ == '\t')) ++p_;
+      if (p_ < end_ && IsWordChar(*p_) && !(*p_ == '\\' && IsContinuation(p_))) {
+        ReadWord(word);
+        last = p_;
+        continue;
+      }
+      p_ = save;
+      line_ = save_line;
+      break;
+    }
+    value.quoted = false;
+    value.text = std::string_view(start, last - start);
+    return true;
+  }
+
+  bool Expect(char c, const std::string& what) {
+    SkipBlank();
+    if (p_ < end_ && *p_ == c) {
+      ++p_;
+      return true;
+    }
+    return Error("expected " + what + ", found " + Found());
+  }
+
+  bool ParseStatement(LibStatement& st, int depth) {
+    if (depth > 64) return Error("groups nested too deeply");
+    SkipBlank();
+    st.line = line_;
+    if (!ReadWord(st.name)) return Error("expected an attribute or group name, found " + Found());
+    const std::string name(st.name);
+    SkipBlank();
+    if (p_ < end_ && *p_ == ':') {
+      ++p_;
+      st.kind = LibStatement::Kind::kSimple;
+      st.values.emplace_back();
+      if (!ReadValue(st.values.back(), ("a value for attribute '" + name + "'").c_str()))
+        return false;
+      // Many libraries end a simple attribute with the line alone.
+      const char* q = p_;
+      while (q < end_ && (*q == ' ' || *q == '\t' || *q == '\r')) ++q;
+      if (q < end_ && *q == ';') {
+        p_ = q + 1;
+        return true;
+      }
+      if (q == end_ || *q == '\n' || *q == '}') return true;
+      return Expect(';', "';' after the value of attribute '" + name + "'");
+    }
+    if (p_ >= end_ || *p_ != '(') {
+      return Error("expected ':' or '(' after '" + name + "', found " + Found());
+    }
+    ++p_;
+    SkipBlank();
+    if (p_ < end_ && *p_ != ')') {
+      for (;;) {
+        st.values.emplace_back();
+        if (!ReadValue(st.values.back(), ("a value in the list of '" + name + "'").c_str()))
+          return false;
+        SkipBlank();
+        if (p_ < end_ && *p_ == ',') {
+          ++p_;
+          continue;
+        }
+        break;
+      }
+    }
+    if (!Expect(')', "',' or ')' in the list of '" + name + "'")) return false;
+    SkipBlank();
+    if (p_ < end_ && *p_ == '{') {
+      ++p_;
+      st.kind = LibStatement::Kind::kGroup;
+      const int open_line = st.line;
+      for (;;) {
+        SkipBlank();
+        if (p_ == end_) {
+          line_ = open_line;
+          return Error("expected '}' to close group '" + name + "' opened here, found " + Found());
+        }
+        if (*p_ == '}') {
+          ++p_;
+          break;
+        }
+        if (*p_ == ';') {  // a stray ';' between statements
+          ++p_;
+          continue;
+        }
+        st.children.emplace_back();
+        if (!ParseStatement(st.children.back(), depth + 1)) return false;
+      }
+      SkipBlank();
+      if (p_ < end_ && *p_ == ';') ++p_;
+      return true;
+    }
+    st.kind = LibStatement::Kind::kComplex;
+    // Real libraries often leave the ';' behind a complex attribute out.
+    if (p_ < end_ && *p_ == ';') ++p_;
+    return true;
+  }
+
+  LibTree& tree_;
+  const std::string& file_;
+  const char* p_;
+  const char* end_;
+  int line_ = 1;
+  int unterminated_comment_line_ = 0;
+  std::string error_;
+};
+
+}  // namespace
+
+bool ParseLibertyText(LibTree& tree, const std::string& file_name, std::string& error) {
+  Parser parser(tree, file_name);
+  return parser.Run(error);
+}
+
+}  // namespace liberty
