@@ -76,6 +76,36 @@ void PrintPins(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell, PinPa
   }
 }
 
+void PrintPinInfo(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell) {
+  PrintPins(os, lib, cell, PinParts::kAll);
+}
+void PrintPinTimingInfo(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell) {
+  PrintPins(os, lib, cell, PinParts::kTiming);
+}
+void PrintPinPowerInfo(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell) {
+  PrintPins(os, lib, cell, PinParts::kPower);
+}
+
+void PrintOneCellInfo(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell) {
+  PrintCellHead(os, cell);
+  PrintCellLeakagePowerInfo(os, lib, cell);
+  PrintPinInfo(os, lib, cell);
+  PrintCellTail(os, cell);
+}
+
+void PrintOneCellTimingInfo(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell) {
+  PrintCellHead(os, cell);
+  PrintPinTimingInfo(os, lib, cell);
+  PrintCellTail(os, cell);
+}
+
+void PrintOneCellPowerInfo(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell) {
+  PrintCellHead(os, cell);
+  PrintCellLeakagePowerInfo(os, lib, cell);
+  PrintPinPowerInfo(os, lib, cell);
+  PrintCellTail(os, cell);
+}
+
 }  // namespace
 
 bool PrintOnePinHead(std::ostream& os, cdm::LibertyLib* lib, cdm::LibPort* port) {
@@ -193,27 +223,16 @@ void PrintTimingGroupHead(std::ostream& os, cdm::LibertyLib* /*lib*/, cdm::LibPo
 }
 
 int PrintCellInfo(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names) {
-  return WalkLibCells(lib, names, [&os, lib](cdm::LibCell* cell) {
-    PrintCellHead(os, cell);
-    PrintCellLeakagePowerInfo(os, lib, cell);
-    PrintPins(os, lib, cell, PinParts::kAll);
-    PrintCellTail(os, cell);
-  });
+  return WalkLibCells(lib, names,
+                      [&os, lib](cdm::LibCell* cell) { PrintOneCellInfo(os, lib, cell); });
 }
 
 int PrintCellTimingInfo(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names) {
-  return WalkLibCells(lib, names, [&os, lib](cdm::LibCell* cell) {
-    PrintCellHead(os, cell);
-    PrintPins(os, lib, cell, PinParts::kTiming);
-    PrintCellTail(os, cell);
-  });
+  return WalkLibCells(lib, names,
+                      [&os, lib](cdm::LibCell* cell) { PrintOneCellTimingInfo(os, lib, cell); });
 }
 
 int PrintCellPowerInfo(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names) {
-  return WalkLibCells(lib, names, [&os, lib](cdm::LibCell* cell) {
-    PrintCellHead(os, cell);
-    PrintCellLeakagePowerInfo(os, lib, cell);
-    PrintPins(os, lib, cell, PinParts::kPower);
-    PrintCellTail(os, cell);
-  });
+  return WalkLibCells(lib, names,
+                      [&os, lib](cdm::LibCell* cell) { PrintOneCellPowerInfo(os, lib, cell); });
 }
