@@ -1,6 +1,7 @@
 #!/bin/sh
 # Generates flat and hierarchical netlists of 10k, 100k and 1M instances
-# and reads and links each. Usage: bench/run_read_link.sh BUILD_DIR [SIZES]
+# and reads and links each against sky130hd.
+# Usage: bench/run_read_link.sh BUILD_DIR [SIZES]
 set -e
 build=${1:?usage: run_read_link.sh BUILD_DIR [SIZES]}
 sizes=${2:-"10000 100000 1000000"}
@@ -14,4 +15,5 @@ for n in $sizes; do
     files="$files $f"
   done
 done
-"$build/kelvo_bench_read_link" $files
+lib=$(dirname "$0")/../tests/data/sky130hd_tt.lib.gz
+"$build/kelvo_bench_read_link" -lib "$lib" $files
