@@ -7,3 +7,8 @@ puts "current design: [current_design]"
 puts "ports: [llength [get_ports *]]  cells: [llength [get_cells *]]  nets: [llength [get_nets *]]"
 report_units
 check_design
+report_area
+report_reference
+report_hierarchy
+report_bus
+report_cell [get_cells _2*_]
