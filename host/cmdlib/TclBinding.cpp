@@ -13,11 +13,6 @@
 namespace cmdlib {
 namespace {
 
-void FlushOutputs() {
-  if (Tcl_Channel out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(out);
-  std::fflush(stdout);
-}
-
 void SetResult(Tcl_Interp* interp, const CommonCmd::State& state) {
   if (!state.result_is_list) {
     Tcl_SetObjResult(interp, Tcl_NewStringObj(state.result.c_str(), -1));
@@ -82,6 +77,11 @@ int RunCommand(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const obj
 }
 
 }  // namespace
+
+void FlushOutputs() {
+  if (Tcl_Channel out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(out);
+  std::fflush(stdout);
+}
 
 void BindCommands(Tcl_Interp* interp) {
   static std::set<std::pair<Tcl_Interp*, CommonCmd*>> bound;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cmdlib/CommandTable.h"
+#include "cmdlib/TclBinding.h"
 #include "hostapi/cmd/CommonCmd.h"
 #include "hostapi/msg/ResultChannel.h"
 
@@ -31,14 +32,9 @@ const BuiltIn kBuiltIns[] = {
      "        [script]               (Commands whose report text is captured)\n"},
 };
 
-void FlushAll() {
-  if (Tcl_Channel out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(out);
-  std::fflush(stdout);
-}
-
 int HelpCmd(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
   const LoadedModule* module = static_cast<const LoadedModule*>(data);
-  FlushAll();
+  cmdlib::FlushOutputs();
   if (objc > 2) {
     Tcl_SetObjResult(interp, Tcl_NewStringObj("Error: help: unexpected argument", -1));
     return TCL_ERROR;
@@ -47,13 +43,13 @@ int HelpCmd(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]
     const char* wanted = Tcl_GetString(objv[1]);
     if (CommonCmd* command = cmdlib::CommandTable::Get().Find(wanted)) {
       command->printUsage();
-      FlushAll();
+      cmdlib::FlushOutputs();
       return TCL_OK;
     }
     for (const BuiltIn& builtin : kBuiltIns) {
       if (std::strcmp(builtin.name, wanted) == 0) {
         std::fputs(builtin.usage, stdout);
-        FlushAll();
+        cmdlib::FlushOutputs();
         return TCL_OK;
       }
     }
@@ -69,7 +65,7 @@ int HelpCmd(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]
     if (command->cmdModule()) continue;  // module commands are listed above
     std::printf("    %-23s# %s\n", command->name().c_str(), command->description().c_str());
   }
-  FlushAll();
+  cmdlib::FlushOutputs();
   return TCL_OK;
 }
 
@@ -116,7 +112,7 @@ int RedirectCmd(ClientData, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[])
   }
 
   std::string captured;
-  FlushAll();
+  cmdlib::FlushOutputs();
   msg::PushResultSink([&captured, tee](std::string_view text) {
     captured.append(text);
     if (tee) {

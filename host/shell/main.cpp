@@ -30,16 +30,11 @@ void PrintShellHelp() {
       "Inside, 'help' lists the commands and 'help CMD' shows one command's usage.\n");
 }
 
-void FlushTclStdout() {
-  if (Tcl_Channel out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(out);
-  std::fflush(stdout);
-}
-
 // Prints the error of a failed evaluation (message and where) on stderr.
 // Tcl names the file and line of a script; for a command string the line
 // is added here.
 void ReportTclError(Tcl_Interp* interp, bool command_string = false) {
-  FlushTclStdout();
+  cmdlib::FlushOutputs();
   const char* info = Tcl_GetVar(interp, "errorInfo", TCL_GLOBAL_ONLY);
   std::fprintf(stderr, "%s\n", info ? info : Tcl_GetStringResult(interp));
   if (command_string)
@@ -57,7 +52,7 @@ void SetArgv(Tcl_Interp* interp, const char* argv0, int argc, char** argv) {
 }
 
 int Finish(Tcl_Interp* interp, int status) {
-  FlushTclStdout();
+  cmdlib::FlushOutputs();
   Tcl_DeleteInterp(interp);
   return status;
 }
@@ -76,7 +71,7 @@ int RunInteractive(Tcl_Interp* interp) {
   int status = 0;
   while (true) {
     if (terminal) {
-      FlushTclStdout();
+      cmdlib::FlushOutputs();
       std::printf(command.empty() ? "kelvo> " : "> ");
       std::fflush(stdout);
     }
@@ -86,7 +81,7 @@ int RunInteractive(Tcl_Interp* interp) {
     if (!Tcl_CommandComplete(command.c_str())) continue;
     int code = Tcl_RecordAndEval(interp, command.c_str(), 0);
     command.clear();
-    FlushTclStdout();
+    cmdlib::FlushOutputs();
     if (code != TCL_OK) {
       if (terminal) {
         // At the prompt the message is enough; the trace is in $errorInfo.
