@@ -6,8 +6,11 @@
 #include "db/Netlist.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Design.h"
+#include "hostapi/cdm/LibCell.h"
+#include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
+#include "hostapi/cdm/Root.h"
 
 namespace cdm {
 namespace {
@@ -95,6 +98,23 @@ void FindPortNames(const Design* top, const std::string& pattern, std::vector<st
 void FindDirectedPortNames(const Design* top, bool inputs, std::vector<std::string>& names) {
   for (Port* port : top->Ports())
     if (inputs ? port->IsInput() : port->IsOutput()) names.push_back(port->Name());
+}
+
+void FindLibNames(const Root* root, const std::string& pattern, std::vector<std::string>& names) {
+  for (LibertyLib* lib : root->LibertyLibs())
+    if (GlobMatch(pattern, lib->Name())) names.push_back(lib->Name());
+}
+
+void FindLibCellNames(const Root* root, const std::string& pattern,
+                      std::vector<std::string>& names) {
+  size_t slash = pattern.find('/');
+  std::string lib_pattern = slash == std::string::npos ? "*" : pattern.substr(0, slash);
+  std::string cell_pattern = slash == std::string::npos ? pattern : pattern.substr(slash + 1);
+  for (LibertyLib* lib : root->LibertyLibs()) {
+    if (!GlobMatch(lib_pattern, lib->Name())) continue;
+    for (LibCell* cell : lib->GetLibCells())
+      if (GlobMatch(cell_pattern, cell->Name())) names.push_back(lib->Name() + "/" + cell->Name());
+  }
 }
 
 }  // namespace cdm

@@ -8,6 +8,7 @@
 namespace cdm {
 
 class Design;
+class Root;
 
 // Without `hierarchical` a pattern matches local names at the top level,
 // or full names through the hierarchy when it holds a "/"; with it, local
@@ -24,5 +25,12 @@ void FindPinNames(const Design* top, const std::string& pattern, bool hierarchic
 void FindPortNames(const Design* top, const std::string& pattern, std::vector<std::string>& names);
 // Input (and inout) or output (and inout) ports.
 void FindDirectedPortNames(const Design* top, bool inputs, std::vector<std::string>& names);
+
+// Technology libraries by name, in the order read.
+void FindLibNames(const Root* root, const std::string& pattern, std::vector<std::string>& names);
+// Library cells as "library/cell"; a pattern without "/" matches cell
+// names in every library.
+void FindLibCellNames(const Root* root, const std::string& pattern,
+                      std::vector<std::string>& names);
 
 }  // namespace cdm

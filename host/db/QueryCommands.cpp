@@ -1,5 +1,6 @@
 // get_cells, get_nets, get_pins, get_ports, all_inputs, all_outputs: Tcl
-// lists of full names from the current design.
+// lists of full names from the current design; get_libs, get_lib_cells:
+// names of the technology libraries and their cells.
 #include <boost/any.hpp>
 #include <string>
 #include <vector>
@@ -101,6 +102,42 @@ class GetPortsCmd : public QueryCmd {
   }
 };
 
+// get_libs and get_lib_cells need no design.
+class LibQueryCmd : public CommonCmd {
+ public:
+  LibQueryCmd(const char* name, const char* description, const char* kind, bool cells)
+      : CommonCmd(name, description, nullptr), kind_(kind), cells_(cells) {
+    addOptions("help", "Display help info", false, ValueType::kFlag, std::any());
+    addOptions("quiet", "Say nothing when nothing matches", false, ValueType::kFlag, std::any());
+    addOptions("patterns", "Name patterns (* and ?)", true, ValueType::kStringList, std::any());
+  }
+
+  int exec() override {
+    boost::any value;
+    std::vector<std::string> patterns;
+    if (getOptionValue("patterns", value))
+      patterns = boost::any_cast<std::vector<std::string>>(value);
+    bool all = patterns.empty();
+    if (all) patterns.push_back(cells_ ? "*/*" : "*");
+    std::vector<std::string> names;
+    for (const std::string& pattern : patterns) {
+      size_t before = names.size();
+      if (cells_)
+        cdm::FindLibCellNames(cdm::DbManager::GetRoot(), pattern, names);
+      else
+        cdm::FindLibNames(cdm::DbManager::GetRoot(), pattern, names);
+      if (names.size() == before && !all && !getOptionValue("quiet"))
+        msg::Print_Result("Warning: No %s objects matched '%s'", kind_, pattern.c_str());
+    }
+    SetTclResultList(std::move(names));
+    return 0;
+  }
+
+ private:
+  const char* kind_;
+  bool cells_;
+};
+
 class AllPortsCmd : public CommonCmd {
  public:
   AllPortsCmd(const char* name, const char* description, bool inputs)
@@ -129,6 +166,8 @@ cmdlib::HostCommandRegistrar registrar([] {
   new GetNetsCmd();
   new GetPinsCmd();
   new GetPortsCmd();
+  new LibQueryCmd("get_libs", "Get technology libraries", "libs", false);
+  new LibQueryCmd("get_lib_cells", "Get library cells as library/cell", "lib_cells", true);
   new AllPortsCmd("all_inputs", "All input and inout ports of the current design", true);
   new AllPortsCmd("all_outputs", "All output and inout ports of the current design", false);
 });
