@@ -1,9 +1,11 @@
 // report_reference: the distinct references of the current design with
 // their unit area and count, and with -hierarchy one table per sub-design.
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <unordered_map>
 
 #include "cmd/TclCmd.h"
 #include "format/ReportMgr.h"
@@ -12,12 +14,49 @@
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/LibCell.h"
 #include "hostapi/cdm/LibertyLib.h"
+#include "hostapi/cdm/Root.h"
 #include "hostapi/msg/Msg.h"
 
-// Rows come in the order of the reference objects themselves.
-using RefCounts = std::map<cdm::Reference*, int>;
+// Rows come in the order of the reference objects' identity: their place in
+// the database (designs in reading order, then library cells library by
+// library in file order), so that the order is the same on every build.
+// References link could not resolve follow, by name.
+class ReferenceIdentity {
+ public:
+  ReferenceIdentity()
+      : rank_(std::make_shared<std::unordered_map<const cdm::Reference*, size_t>>()) {
+    cdm::Root* root = cdm::DbManager::GetRoot();
+    for (cdm::Design* design : root->Designs()) Add(design);
+    for (cdm::LibertyLib* lib : root->LibertyLibs()) AddLibrary(lib);
+    AddLibrary(cdm::DbManager::GetGenericLib());
+  }
+  bool operator()(const cdm::Reference* a, const cdm::Reference* b) const {
+    size_t rank_a = Rank(a);
+    size_t rank_b = Rank(b);
+    if (rank_a != rank_b) return rank_a < rank_b;
+    if (rank_a != kUnranked || a == b) return false;
+    return a->Name() != b->Name() ? a->Name() < b->Name() : std::less<>()(a, b);
+  }
 
-void DesignAllRefDesign(cdm::Cell* cell, std::set<cdm::Design*>& designs) {
+ private:
+  static constexpr size_t kUnranked = static_cast<size_t>(-1);
+  void Add(const cdm::Reference* ref) { rank_->emplace(ref, rank_->size()); }
+  void AddLibrary(const cdm::LibertyLib* lib) {
+    if (!lib) return;
+    for (const cdm::LibCell* cell : lib->GetLibCells()) Add(cell);
+  }
+  size_t Rank(const cdm::Reference* ref) const {
+    auto found = rank_->find(ref);
+    return found == rank_->end() ? kUnranked : found->second;
+  }
+  // Shared by the copies that each map and set keeps.
+  std::shared_ptr<std::unordered_map<const cdm::Reference*, size_t>> rank_;
+};
+
+using RefCounts = std::map<cdm::Reference*, int, ReferenceIdentity>;
+using DesignSet = std::set<cdm::Design*, ReferenceIdentity>;
+
+void DesignAllRefDesign(cdm::Cell* cell, DesignSet& designs) {
   cdm::Design* design = cell->GetRefDesign();
   if (!design) return;
   designs.insert(design);
@@ -108,8 +147,9 @@ int ReportReferenceCmd::exec() {
   cdm::Design* design = cdm::DbManager::GetCurrentDesign();
   bool hierarchy = getHierarchy();
 
-  RefCounts counts;
-  std::set<cdm::Design*> designs;
+  const ReferenceIdentity identity;
+  RefCounts counts(identity);
+  DesignSet designs(identity);
   std::unique_ptr<cdm::Iterator<cdm::Cell>> cells(design->CellIter());
   while (cells->HasNext()) {
     cdm::Cell* cell = cells->Next();
@@ -140,7 +180,7 @@ int ReportReferenceCmd::exec() {
   for (cdm::Design* sub_design : designs) {
     ReportTable table;
     table.title = std::string(stars) + "\nDesign: " + sub_design->GetRefText() + "\n" + stars;
-    RefCounts sub_counts;
+    RefCounts sub_counts(identity);
     CountDirectCells(sub_design, sub_counts);
     PrintReferenceTable(table, sub_counts, DesignTableAttributes);
   }
