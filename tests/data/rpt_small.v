@@ -1,7 +1,7 @@
 // Small design for the design report tests: `sub` is used at two levels
 // (twice through `mid`), an operator module, a black box, tie cells, a
 // tied and an unconnected input, a net with two drivers, an unresolved
-// reference, and buses that run up, down and [10:9].
+// reference, and buses that run up, down, [10:9] and [9:10].
 module sub (a, b, y);
   input a, b;
   output y;
@@ -43,6 +43,7 @@ module top (clk, up, down, odd, en, io, q, z);
   wire [7:0] bus_w;
   wire [0:1] bus_u;
   wire [3:3] single;
+  wire [9:10] rising;
   wire multi, hi, lo;
   mid m0 (.clk(clk), .d(up[0]), .q(q[0]));
   mid m1 (.clk(clk), .d(down[3]), .q(q[1]));
