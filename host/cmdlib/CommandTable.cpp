@@ -1,5 +1,6 @@
 #include "cmdlib/CommandTable.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "cmdlib/HostCommands.h"
@@ -10,6 +11,10 @@ namespace cmdlib {
 CommandTable& CommandTable::Get() {
   static CommandTable table;
   return table;
+}
+
+void CommandTable::Remove(CommonCmd* command) {
+  commands_.erase(std::remove(commands_.begin(), commands_.end(), command), commands_.end());
 }
 
 CommonCmd* CommandTable::Find(const char* name) const {

@@ -12,6 +12,8 @@ class CommandTable {
  public:
   static CommandTable& Get();
   void Add(CommonCmd* command) { commands_.push_back(command); }
+  // A command whose construction failed half-way leaves the table again.
+  void Remove(CommonCmd* command);
   const std::vector<CommonCmd*>& Commands() const { return commands_; }
   CommonCmd* Find(const char* name) const;
 

@@ -52,7 +52,9 @@ CommonCmd::CommonCmd(const char* name, const char* description, const char*)
   cmdlib::CommandTable::Get().Add(this);
 }
 
-CommonCmd::~CommonCmd() = default;
+CommonCmd::~CommonCmd() {
+  cmdlib::CommandTable::Get().Remove(this);
+}
 
 void CommonCmd::printUsage() {
   std::printf("Usage: %s    #  %s\n", state_->name.c_str(), state_->description.c_str());
