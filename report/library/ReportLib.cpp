@@ -61,7 +61,8 @@ void MsgErrorNonExistCell(const CellNames& /*missing*/, cdm::LibertyLib* /*lib*/
 
 std::string GetDoubleAttrString(double value, double scale, std::string default_text) {
   if (value + 1.0 < 0.000001) return default_text;
-  char text[64];
+  // "%f" of the largest double takes some 320 characters.
+  char text[400];
   std::snprintf(text, sizeof text, "%f", value / scale);
   return text;
 }

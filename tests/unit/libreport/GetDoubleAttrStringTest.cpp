@@ -21,6 +21,10 @@ TEST(GetDoubleAttrString, SetValuesAreDividedByTheScale) {
   EXPECT_EQ(GetDoubleAttrString(0.25, 1.0, " "), "0.250000");
   // Just above the threshold of unset, a value prints.
   EXPECT_EQ(GetDoubleAttrString(-0.99, 1.0, " "), "-0.990000");
+  // A huge value prints whole, not cut at a buffer's end.
+  const std::string huge = GetDoubleAttrString(1e300, 1.0, " ");
+  EXPECT_EQ(huge.size(), 301u + 7u);
+  EXPECT_EQ(huge.substr(huge.size() - 7), ".000000");
 }
 
 }  // namespace
