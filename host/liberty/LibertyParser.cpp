@@ -18,7 +18,14 @@ class Parser {
   bool Run(std::string& error) {
     SkipBlank();
     if (p_ == end_) return Fail("expected a 'library' group, found the end of the file", error);
-    if (!ParseStatement(tree_.root, 0)) return Fail(error_, error);
+    if (!ParseStatement(tree_.root, 0)) {
+      if (unterminated_comment_line_) {
+        line_ = unterminated_comment_line_;
+        return Fail("expected '*/' to close the comment opened here, found the end of the file",
+                    error);
+      }
+      return Fail(error_, error);
+    }
     if (tree_.root.kind != LibStatement::Kind::kGroup || tree_.root.name != "library") {
       line_ = tree_.root.line;
       return Fail("expected a 'library' group, found '" + std::string(tree_.root.name) + "'",
@@ -83,6 +90,7 @@ class Parser {
         }
         if (p_ + 1 >= end_) {
           p_ = start;
+          line_ = start_line;
           unterminated_comment_line_ = start_line;
           return;
         }
