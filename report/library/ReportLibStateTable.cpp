@@ -47,7 +47,7 @@ OutputsOfCell CollectOutputs(cdm::LibCell* cell, const cdm::LibStateTable* table
   return found;
 }
 
-// Joins names with the given tail behind each and cuts the last two characters.
+// The input columns, a doubled input with its starred column first.
 std::string InputHeading(const cdm::LibStateTable* table) {
   std::string text;
   for (size_t i = 0; i < table->input_ports.size(); ++i) {
