@@ -67,6 +67,7 @@ void AddType(TypeTable& table, const std::string& lib, const std::string& type,
 // when it has a library cell, else under the file that names its reference.
 void AddUnknown(AreaTotals& totals, const cdm::Cell* cell) {
   cdm::Reference* ref = cell->GetRef();
+  if (!ref) return;  // a design that was never linked: nothing to file it under
   if (const cdm::LibCell* lib_cell = cell->GetRefLibCell()) {
     AddType(totals.unknown_types, lib_cell->GetLibertyLib()->Name(), lib_cell->GetCellTypeName(),
             ref);
@@ -77,7 +78,7 @@ void AddUnknown(AreaTotals& totals, const cdm::Cell* cell) {
     owner = design->Owner()->Name();
   else if (auto* unresolved = dynamic_cast<const cdm::UnresolvedReference*>(ref))
     owner = unresolved->Owner() ? unresolved->Owner()->Name() : "";
-  AddType(totals.unknown_types, owner, ref ? ref->GetRefText() : cell->GetRefName(), ref);
+  AddType(totals.unknown_types, owner, ref->GetRefText(), ref);
 }
 
 // Leaf area below a design, for a design that stands for a black box.

@@ -5,6 +5,7 @@
 #include "CaptureResult.h"
 #include "format/ReportMgr.h"
 #include "format/ReportPrint.h"
+#include "hostapi/cdm/Pin.h"
 
 namespace {
 
@@ -40,6 +41,14 @@ TEST(ReportHelpers, HeaderBanner) {
       "\\*{40}\nReport : timing\nDesign : top\nVersion: \nDate   : [A-Z][a-z]{2} "
       "[^\n]+\n\\*{40}\n");
   EXPECT_TRUE(std::regex_match(text, banner)) << text;
+}
+
+TEST(ReportHelpers, PinCapAppendsRiseAndFallWithoutClearing) {
+  cdm::Pin unconnected;  // no cell, so no library capacitance
+  std::vector<float> caps = {7.0f};
+  PinCap(&unconnected, caps);
+  PinCap(&unconnected, caps);
+  EXPECT_EQ(caps, (std::vector<float>{7.0f, 0.0f, 0.0f, 0.0f, 0.0f}));
 }
 
 }  // namespace
