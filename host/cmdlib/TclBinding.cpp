@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <exception>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -84,9 +83,13 @@ void FlushOutputs() {
 }
 
 void BindCommands(Tcl_Interp* interp) {
-  static std::set<std::pair<Tcl_Interp*, CommonCmd*>> bound;
   for (CommonCmd* command : CommandTable::Get().Commands()) {
-    if (!bound.insert({interp, command}).second) continue;
+    // Asked of the interpreter itself: a new interpreter may reuse the
+    // address of a deleted one.
+    Tcl_CmdInfo info;
+    if (Tcl_GetCommandInfo(interp, command->name().c_str(), &info) && info.objProc == RunCommand &&
+        info.objClientData == command)
+      continue;
     Tcl_CreateObjCommand(interp, command->name().c_str(), RunCommand, command, nullptr);
   }
 }
