@@ -47,47 +47,74 @@ const OptionDecl* MatchOption(const CommonCmd::State& state, const std::string& 
   return nullptr;
 }
 
+bool ParseReal(const std::string& text, double& value) {
+  if (text.empty()) return false;
+  char* end = nullptr;
+  errno = 0;
+  value = std::strtod(text.c_str(), &end);
+  return errno == 0 && end && *end == '\0';
+}
+
+bool ParseText(const std::string& text, std::string& value) {
+  value = text;
+  return true;
+}
+
+// Splits `text` as a Tcl list, reads each element, and appends the result to
+// what earlier uses of the option gave. False when an element is refused.
+template <class T, class ReadOne>
+bool AppendList(ParsedOption& slot, const std::string& text, ReadOne read_one) {
+  std::vector<std::string> words;
+  if (!SplitTclList(text, words)) return false;
+  std::vector<T> items;
+  if (slot.count > 0 && !slot.value.empty()) items = boost::any_cast<std::vector<T>>(slot.value);
+  for (const std::string& word : words) {
+    T item{};
+    if (!read_one(word, item)) return false;
+    items.push_back(std::move(item));
+  }
+  slot.value = std::move(items);
+  return true;
+}
+
 bool StoreValue(CommonCmd::State& state, const OptionDecl& decl, const std::string& text,
                 std::string& error) {
   ParsedOption& slot = state.parsed[decl.name];
-  const std::string shown = decl.positional ? decl.name : "-" + decl.name;
+  bool ok = true;
+  const char* expected = "";
   switch (decl.type) {
     case ValueType::kInteger: {
       int number = 0;
-      if (!ParseInteger(text, number)) {
-        error = state.name + ": option '" + shown + "' expects an integer, got '" + text + "'";
-        return false;
-      }
-      slot.value = number;
+      expected = "an integer";
+      if ((ok = ParseInteger(text, number))) slot.value = number;
       break;
     }
     case ValueType::kDouble: {
-      char* end = nullptr;
-      double real = std::strtod(text.c_str(), &end);
-      if (text.empty() || !end || *end != '\0') {
-        error = state.name + ": option '" + shown + "' expects a number, got '" + text + "'";
-        return false;
-      }
-      slot.value = real;
+      double real = 0;
+      expected = "a number";
+      if ((ok = ParseReal(text, real))) slot.value = real;
       break;
     }
-    case ValueType::kStringList: {
-      std::vector<std::string> items;
-      if (!SplitTclList(text, items)) {
-        error = state.name + ": option '" + shown + "' expects a list, got '" + text + "'";
-        return false;
-      }
-      if (slot.count > 0 && !slot.value.empty()) {
-        auto merged = boost::any_cast<std::vector<std::string>>(slot.value);
-        merged.insert(merged.end(), items.begin(), items.end());
-        items = std::move(merged);
-      }
-      slot.value = items;
+    case ValueType::kStringList:
+      expected = "a list";
+      ok = AppendList<std::string>(slot, text, ParseText);
       break;
-    }
+    case ValueType::kIntegerList:
+      expected = "a list of integers";
+      ok = AppendList<int>(slot, text, ParseInteger);
+      break;
+    case ValueType::kDoubleList:
+      expected = "a list of numbers";
+      ok = AppendList<double>(slot, text, ParseReal);
+      break;
     default:
       slot.value = text;
       break;
+  }
+  if (!ok) {
+    const std::string shown = decl.positional ? decl.name : "-" + decl.name;
+    error = state.name + ": option '" + shown + "' expects " + expected + ", got '" + text + "'";
+    return false;
   }
   ++slot.count;
   return true;

@@ -20,6 +20,9 @@ class SampleCmd : public CommonCmd {
     addOptions("mode", "string with default", false, ValueType::kString, std::string("fast"));
     addOptions("through", "dash list", false, ValueType::kStringList, std::any());
     addOptions("verbose", "flag with default", false, ValueType::kFlag, std::any(false));
+    addOptions("scale", "real", false, ValueType::kDouble, std::any());
+    addOptions("widths", "integer list", false, ValueType::kIntegerList, std::any());
+    addOptions("loads", "real list", false, ValueType::kDoubleList, std::any());
   }
   int exec() override { return 0; }
 };
@@ -81,6 +84,19 @@ TEST_F(ParserTest, IntegersAndNegativeNumbers) {
     EXPECT_EQ(outcome.error,
               std::string("sample_cmd: option '-max_slack' expects an integer, got '") + bad + "'");
   }
+}
+
+TEST_F(ParserTest, RealsAndNumericLists) {
+  ASSERT_TRUE(Parse({"-scale", "-1.5e-3", "-widths", "1 -2", "-widths", "3", "-loads", "0.5"}).ok);
+  EXPECT_DOUBLE_EQ(Value<double>("scale"), -1.5e-3);
+  EXPECT_EQ(Value<std::vector<int>>("widths"), (std::vector<int>{1, -2, 3}));
+  EXPECT_EQ(Value<std::vector<double>>("loads"), (std::vector<double>{0.5}));
+  EXPECT_EQ(Parse({"-widths", "1 x"}).error,
+            "sample_cmd: option '-widths' expects a list of integers, got '1 x'");
+  EXPECT_EQ(Parse({"-loads", "{0.5"}).error,
+            "sample_cmd: option '-loads' expects a list of numbers, got '{0.5'");
+  EXPECT_EQ(Parse({"-scale", "1e999"}).error,
+            "sample_cmd: option '-scale' expects a number, got '1e999'");
 }
 
 TEST_F(ParserTest, DefaultsReadAsValuesButFlagsDoNot) {
