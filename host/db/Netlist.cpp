@@ -92,10 +92,6 @@ UnresolvedReference* Netlist::Unresolved(const std::string* name) {
   return unresolved_.back().get();
 }
 
-}  // namespace cdm
-
-namespace cdm {
-
 std::unique_ptr<Netlist> Netlist::CloneFor(Cell* instance) const {
   auto copy = std::make_unique<Netlist>(design_, instance);
   std::unordered_map<const Pin*, Pin*> pin_map;

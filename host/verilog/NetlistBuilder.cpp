@@ -153,8 +153,7 @@ bool NetlistBuilder::Declare(const DeclAst& decl, const std::vector<AttrAst>&) {
   return true;
 }
 
-bool NetlistBuilder::SymbolBit(const Symbol& symbol, int index, uint32_t line, int32_t& bit) {
-  (void)line;
+bool NetlistBuilder::SymbolBit(const Symbol& symbol, int index, int32_t& bit) {
   const Range& range = symbol.range;
   if (!range.present)
     return Fail("'" + std::string(symbol.name) + "' is a scalar and has no bit " +
@@ -195,7 +194,7 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
       int step = from <= to ? 1 : -1;
       for (int index = from;; index += step) {
         int32_t bit = 0;
-        if (!SymbolBit(*symbol, index, expr.line, bit)) return false;
+        if (!SymbolBit(*symbol, index, bit)) return false;
         bits.push_back(bit);
         if (index == to) break;
       }
@@ -282,8 +281,7 @@ std::string NetlistBuilder::BitName(uint32_t bit) const {
   return std::string(symbol.name) + "[" + std::to_string(index) + "]";
 }
 
-bool NetlistBuilder::FinishPorts(uint32_t line) {
-  (void)line;
+bool NetlistBuilder::FinishPorts() {
   for (const Symbol& symbol : symbols_) {
     if (symbol.direction < 0) continue;
     bool listed = false;
@@ -354,8 +352,8 @@ bool NetlistBuilder::FinishNets() {
   return true;
 }
 
-bool NetlistBuilder::EndModule(uint32_t line) {
-  if (!FinishPorts(line) || !FinishNets()) return false;
+bool NetlistBuilder::EndModule(uint32_t) {
+  if (!FinishPorts() || !FinishNets()) return false;
   done_.push_back(std::move(design_));
   return true;
 }

@@ -56,10 +56,10 @@ class NetlistBuilder : public StatementSink {
   // Bits of an expression, most significant first: bit ids, or the
   // constants of ModuleSource. Undeclared plain names become scalar nets.
   bool ExprBits(const Expr& expr, std::vector<int32_t>& bits);
-  bool SymbolBit(const Symbol& symbol, int index, uint32_t line, int32_t& bit);
+  bool SymbolBit(const Symbol& symbol, int index, int32_t& bit);
   int32_t FindRoot(int32_t bit);
   std::string BitName(uint32_t bit) const;
-  bool FinishPorts(uint32_t line);
+  bool FinishPorts();
   bool FinishNets();
 
   cdm::Root* root_;
