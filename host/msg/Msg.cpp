@@ -26,6 +26,7 @@ std::vector<ResultSink>& Sinks() {
 }
 
 std::string FormatV(const char* format, va_list args) {
+  if (!format) return std::string();  // nothing to print, nothing to crash on
   va_list copy;
   va_copy(copy, args);
   int length = std::vsnprintf(nullptr, 0, format, copy);
