@@ -269,8 +269,6 @@ bool VerilogParser::ParseExpr(Expr& expr) {
       if (!next.Is(",")) return FailAt(next, "',' or '}'");
     }
   }
-  if (token.kind == TokenKind::kIdentifier || token.kind == TokenKind::kError)
-    return FailAt(token, "a net expression");
   return FailAt(token, "a net expression");
 }
 
