@@ -2,7 +2,9 @@
 
 #include <cerrno>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
 
 #include "hostapi/cdm/Root.h"
 
@@ -26,22 +28,75 @@ const std::string* LibEditor::Intern(std::string_view text) {
 
 namespace {
 
+// Decimal numbers as libraries write them ("-0.0123", "1.5e-3"), read
+// without strtod, which dominated the reading time; anything unusual
+// ("inf", hexadecimal, very long mantissas) goes to strtod.
+bool FastNumber(const char* p, const char* end, double& value) {
+  static const double kPow10[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                  1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                  1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  bool negative = false;
+  if (p < end && (*p == '-' || *p == '+')) negative = *p++ == '-';
+  uint64_t mantissa = 0;
+  int digits = 0;
+  int scale = 0;
+  bool any = false;
+  for (; p < end && *p >= '0' && *p <= '9'; ++p, any = true) {
+    if (digits < 18) {
+      mantissa = mantissa * 10 + static_cast<uint64_t>(*p - '0');
+      if (mantissa) ++digits;
+    } else {
+      ++scale;
+    }
+  }
+  if (p < end && *p == '.') {
+    for (++p; p < end && *p >= '0' && *p <= '9'; ++p, any = true) {
+      if (digits < 18) {
+        mantissa = mantissa * 10 + static_cast<uint64_t>(*p - '0');
+        if (mantissa) ++digits;
+        --scale;
+      }
+    }
+  }
+  if (!any) return false;
+  if (p < end && (*p == 'e' || *p == 'E')) {
+    ++p;
+    bool exp_negative = false;
+    if (p < end && (*p == '-' || *p == '+')) exp_negative = *p++ == '-';
+    int exponent = 0;
+    bool exp_any = false;
+    for (; p < end && *p >= '0' && *p <= '9'; ++p, exp_any = true) {
+      if (exponent < 10000) exponent = exponent * 10 + (*p - '0');
+    }
+    if (!exp_any) return false;
+    scale += exp_negative ? -exponent : exponent;
+  }
+  if (p != end || scale < -22 || scale > 22) return false;
+  double result = static_cast<double>(mantissa);
+  result = scale < 0 ? result / kPow10[-scale] : result * kPow10[scale];
+  value = negative ? -result : result;
+  return true;
+}
+
 // One number at `p` (within `end`); false when there is none.
 bool ReadNumber(const char*& p, const char* end, float& value) {
   while (p < end && (*p == ' ' || *p == '\t' || *p == '\n' || *p == '\r')) ++p;
   if (p == end) return false;
-  char buffer[64];
   size_t len = 0;
-  while (p + len < end && len < sizeof buffer - 1 && *(p + len) != ',' && *(p + len) != ' ' &&
-         *(p + len) != '\t' && *(p + len) != '\n' && *(p + len) != '\r') {
-    buffer[len] = p[len];
+  while (p + len < end && p[len] != ',' && p[len] != ' ' && p[len] != '\t' && p[len] != '\n' &&
+         p[len] != '\r') {
     ++len;
   }
-  buffer[len] = '\0';
-  char* stop = nullptr;
-  errno = 0;
-  const double parsed = std::strtod(buffer, &stop);
-  if (len == 0 || stop != buffer + len || !std::isfinite(parsed)) return false;
+  double parsed = 0.0;
+  if (!FastNumber(p, p + len, parsed)) {
+    char buffer[64];
+    if (len == 0 || len >= sizeof buffer) return false;
+    std::memcpy(buffer, p, len);
+    buffer[len] = '\0';
+    char* stop = nullptr;
+    parsed = std::strtod(buffer, &stop);
+    if (stop != buffer + len || !std::isfinite(parsed)) return false;
+  }
   value = static_cast<float>(parsed);
   p += len;
   return true;

@@ -165,13 +165,16 @@ class Parser {
 
   // A value: a quoted string or a word. Words may be joined by blanks into
   // one value ("A & B" unquoted) up to the next delimiter.
-  bool ReadValue(LibValue& value, const char* context) {
+  // `context` and `name` make the message only when there is an error.
+  bool ReadValue(LibValue& value, const char* context, std::string_view name) {
     SkipBlank();
-    if (p_ == end_) return Error(std::string("expected ") + context + ", found " + Found());
-    if (*p_ == '"') return ReadQuoted(value);
+    if (p_ < end_ && *p_ == '"') return ReadQuoted(value);
     const char* start = p_;
     std::string_view word;
-    if (!ReadWord(word)) return Error(std::string("expected ") + context + ", found " + Found());
+    if (p_ == end_ || !ReadWord(word)) {
+      return Error(std::string("expected ") + context + " '" + std::string(name) + "', found " +
+                   Found());
+    }
     const char* last = p_;
     for (;;) {
       const char* save = p_;
@@ -191,13 +194,15 @@ class Parser {
     return true;
   }
 
-  bool Expect(char c, const std::string& what) {
+  // `what` and `name` make the message only when there is an error.
+  bool Expect(char c, const char* what, std::string_view name) {
     SkipBlank();
     if (p_ < end_ && *p_ == c) {
       ++p_;
       return true;
     }
-    return Error("expected " + what + ", found " + Found());
+    return Error(std::string("expected ") + what + " '" + std::string(name) + "', found " +
+                 Found());
   }
 
   bool ParseStatement(LibStatement& st, int depth) {
@@ -205,14 +210,13 @@ class Parser {
     SkipBlank();
     st.line = line_;
     if (!ReadWord(st.name)) return Error("expected an attribute or group name, found " + Found());
-    const std::string name(st.name);
+    const std::string_view name = st.name;
     SkipBlank();
     if (p_ < end_ && *p_ == ':') {
       ++p_;
       st.kind = LibStatement::Kind::kSimple;
       st.values.emplace_back();
-      if (!ReadValue(st.values.back(), ("a value for attribute '" + name + "'").c_str()))
-        return false;
+      if (!ReadValue(st.values.back(), "a value for attribute", name)) return false;
       // Many libraries end a simple attribute with the line alone.
       const char* q = p_;
       while (q < end_ && (*q == ' ' || *q == '\t' || *q == '\r')) ++q;
@@ -221,18 +225,17 @@ class Parser {
         return true;
       }
       if (q == end_ || *q == '\n' || *q == '}') return true;
-      return Expect(';', "';' after the value of attribute '" + name + "'");
+      return Expect(';', "';' after the value of attribute", name);
     }
     if (p_ >= end_ || *p_ != '(') {
-      return Error("expected ':' or '(' after '" + name + "', found " + Found());
+      return Error("expected ':' or '(' after '" + std::string(name) + "', found " + Found());
     }
     ++p_;
     SkipBlank();
     if (p_ < end_ && *p_ != ')') {
       for (;;) {
         st.values.emplace_back();
-        if (!ReadValue(st.values.back(), ("a value in the list of '" + name + "'").c_str()))
-          return false;
+        if (!ReadValue(st.values.back(), "a value in the list of", name)) return false;
         SkipBlank();
         if (p_ < end_ && *p_ == ',') {
           ++p_;
@@ -241,7 +244,7 @@ class Parser {
         break;
       }
     }
-    if (!Expect(')', "',' or ')' in the list of '" + name + "'")) return false;
+    if (!Expect(')', "',' or ')' in the list of", name)) return false;
     SkipBlank();
     if (p_ < end_ && *p_ == '{') {
       ++p_;
@@ -251,7 +254,8 @@ class Parser {
         SkipBlank();
         if (p_ == end_) {
           line_ = open_line;
-          return Error("expected '}' to close group '" + name + "' opened here, found " + Found());
+          return Error("expected '}' to close group '" + std::string(name) +
+                       "' opened here, found " + Found());
         }
         if (*p_ == '}') {
           ++p_;

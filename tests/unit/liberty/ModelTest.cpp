@@ -236,7 +236,7 @@ TEST(Model, EnumerationSpellings) {
   EXPECT_EQ(cdm::to_string(cdm::PgType::kPrimaryGround), "primary_ground");
   EXPECT_EQ(cdm::wireloadModeString(static_cast<cdm::WireLoadMode>(7)), nullptr);
   EXPECT_STREQ(cdm::scale_factor_type_map.find(cdm::ScaleFactorType::kMinPeriod), "min_period");
-  cdm::TimingType type;
+  cdm::TimingType type = cdm::TimingType::kClear;
   ASSERT_TRUE(cdm::timing_type_map.find("three_state_enable_rise", type));
   EXPECT_EQ(static_cast<int>(type), 33);
   cdm::LibScaleFactor::Factor factor{};
