@@ -176,11 +176,13 @@ class Parser {
                    Found());
     }
     const char* last = p_;
+    last_word_ = nullptr;
     for (;;) {
       const char* save = p_;
       const int save_line = line_;
       while (p_ < end_ && (*p_ == ' ' || *p_ == '\t')) ++p_;
       if (p_ < end_ && IsWordChar(*p_) && !(*p_ == '\\' && IsContinuation(p_))) {
+        last_word_ = p_;
         ReadWord(word);
         last = p_;
         continue;
@@ -225,6 +227,10 @@ class Parser {
         return true;
       }
       if (q == end_ || *q == '\n' || *q == '}') return true;
+      if (q < end_ && *q == ':' && last_word_) {
+        // `a : 1 b : 2;`: the ';' is missing before the last word read.
+        p_ = last_word_;
+      }
       return Expect(';', "';' after the value of attribute", name);
     }
     if (p_ >= end_ || *p_ != '(') {
@@ -284,6 +290,7 @@ class Parser {
   const char* end_;
   int line_ = 1;
   int unterminated_comment_line_ = 0;
+  const char* last_word_ = nullptr;  // start of the last word of a value of several
   std::string error_;
 };
 

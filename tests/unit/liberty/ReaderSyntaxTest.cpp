@@ -55,7 +55,7 @@ TEST(ReaderSyntax, Errors) {
       {Wrap("  cell(A) { area : 1x; }\n"),
        "t.lib, line 5: expected a number for 'area', found '1x'"},
       {Wrap("  cell(A) { area : 1 dont_use : true; }\n"),
-       "line 5: expected ';' after the value of attribute 'area'"},
+       "line 5: expected ';' after the value of attribute 'area', found 'dont_use'"},
       {Wrap("  date : \"open\n\n"), "line 5: expected the closing '\"'"},
       {Wrap("  cell(A) { area 1; }\n"), "line 5: expected ':' or '(' after 'area', found '1'"},
       {Wrap("  /* never closed\n"),
