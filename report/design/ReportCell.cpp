@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cmd/TclCmd.h"
+#include "design/DesignArea.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"

@@ -8,6 +8,7 @@
 #include <unordered_map>
 
 #include "cmd/TclCmd.h"
+#include "design/DesignArea.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
