@@ -75,7 +75,10 @@ class LibEditor {
   std::string error_;
   LibertyLib* lib_ = nullptr;
   std::unordered_map<std::string, BusType> bus_types_;
-  std::unordered_map<std::string, LibPort*> port_index_;  // of the cell being read
+  // Templates by kind and name, so that each table finds its own at once.
+  std::unordered_map<std::string_view, const LibTableTemplate*> templates_[2];
+  std::unordered_map<std::string_view, LibPort*>
+      port_index_;  // keys: interned names  // of the cell being read
 };
 
 }  // namespace cdm

@@ -36,13 +36,13 @@ bool DirectionOf(const liberty::LibStatement& group, uint8_t& direction,
 }  // namespace
 
 LibPort* LibEditor::AddPort(LibCell* cell, std::string_view name, uint8_t direction, bool listed) {
-  auto found = port_index_.find(std::string(name));
+  auto found = port_index_.find(name);
   if (found != port_index_.end()) return found->second;
   auto port = std::make_unique<LibPort>(Intern(name), direction, cell);
   LibPort* added = port.get();
   cell->owned_ports_.push_back(std::move(port));
   if (listed) cell->ports_.push_back(added);
-  port_index_.emplace(std::string(name), added);
+  port_index_.emplace(added->Name(), added);
   return added;
 }
 
@@ -78,7 +78,7 @@ bool LibEditor::DeclarePorts(LibCell* cell, const Statement& st) {
       LibPort* bus_port = bus.get();
       cell->owned_ports_.push_back(std::move(bus));
       cell->buses_.push_back(bus_port);
-      port_index_.emplace(std::string(child.Value()), bus_port);
+      port_index_.emplace(bus_port->Name(), bus_port);
       const int step = type->second.from >= type->second.to ? -1 : 1;
       for (int bit = type->second.from;; bit += step) {
         std::string member =
@@ -106,7 +106,7 @@ bool LibEditor::Function(LibCell* cell, const Statement& st, LibBoolFuncExpr& fu
   (void)cell;
   std::string error;
   liberty::PortLookup lookup = [this](std::string_view name) -> LibPort* {
-    auto found = port_index_.find(std::string(name));
+    auto found = port_index_.find(name);
     return found == port_index_.end() ? nullptr : found->second;
   };
   if (!liberty::ParseBoolFunc(st.Value(), lookup, function, error)) return Fail(st, error);
@@ -209,13 +209,13 @@ bool LibEditor::PinStatement(LibCell* cell, const std::vector<LibPort*>& ports,
 }
 
 bool LibEditor::BusGroup(LibCell* cell, const Statement& st) {
-  LibPort* bus = port_index_.at(std::string(st.Value()));
+  LibPort* bus = port_index_.at(st.Value());
   std::vector<LibPort*> all{bus};
   all.insert(all.end(), bus->members_.begin(), bus->members_.end());
   for (const Statement& child : st.children) {
     if (child.IsGroup() && child.name == "pin") {
       for (const liberty::LibValue& value : child.values) {
-        auto found = port_index_.find(std::string(value.text));
+        auto found = port_index_.find(value.text);
         if (found == port_index_.end()) {
           return Fail(child, "unknown pin '" + std::string(value.text) + "' in bus '" +
                                  std::string(st.Value()) + "'");
@@ -236,8 +236,7 @@ bool LibEditor::CellStatement(LibCell* cell, const Statement& st) {
   if (st.IsGroup()) {
     if (name == "pin") {
       std::vector<LibPort*> ports;
-      for (const liberty::LibValue& value : st.values)
-        ports.push_back(port_index_.at(std::string(value.text)));
+      for (const liberty::LibValue& value : st.values) ports.push_back(port_index_.at(value.text));
       for (const Statement& child : st.children) {
         if (!PinStatement(cell, ports, child)) return false;
       }

@@ -243,6 +243,8 @@ bool LibEditor::TemplateGroup(const Statement& st, TemplateClass kind) {
   }
   for (size_t axis = 0; axis < table->variables.size(); ++axis)
     table->indices.push_back(indices[axis]);
+  // The first of a name wins, as GetTableTemplate would find it.
+  templates_[static_cast<int>(kind)].emplace(table->name, table.get());
   lib_->templates_.push_back(std::move(table));
   return true;
 }

@@ -20,8 +20,8 @@ bool LibEditor::SequentialGroup(LibCell* cell, const Statement& st) {
   const bool latch = st.name == "latch" || st.name == "latch_bank";
   group->kind = latch ? LibSequential::Kind::kLatch : LibSequential::Kind::kFlipFlop;
   const size_t at = StatePortsAt(st);
-  group->first = port_index_.at(std::string(st.values[at].text));
-  group->second = port_index_.at(std::string(st.values[at + 1].text));
+  group->first = port_index_.at(st.values[at].text);
+  group->second = port_index_.at(st.values[at + 1].text);
   if (at == 0 && st.values.size() >= 3) {
     float width = 0.0f;
     if (!Number(st, width, 2)) return false;

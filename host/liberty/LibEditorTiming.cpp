@@ -15,21 +15,23 @@ float LibPort::GetCapacitance(const RiseFall* edge, const MinMax* minmax) const 
 bool LibEditor::TableGroup(const Statement& st, TemplateClass kind, float value_scale,
                            std::unique_ptr<LibTable>& table) {
   const LibUnits& units = lib_->units_;
-  const std::string template_name(st.Value());
+  const std::string_view template_name = st.Value();
   const LibTableTemplate* table_template = nullptr;
   if (!template_name.empty() && template_name != "scalar") {
-    table_template = lib_->GetTableTemplate(kind, template_name);
     // Some libraries name a delay template in a power table and back.
-    if (!table_template) {
-      table_template = lib_->GetTableTemplate(
-          kind == TemplateClass::kDelay ? TemplateClass::kPower : TemplateClass::kDelay,
-          template_name);
+    const int own = static_cast<int>(kind);
+    for (int k : {own, 1 - own}) {
+      auto found = templates_[k].find(template_name);
+      if (found != templates_[k].end()) {
+        table_template = found->second;
+        break;
+      }
     }
     if (!table_template) {
       return Fail(st,
                   std::string("unknown ") +
                       (kind == TemplateClass::kDelay ? "lu_table_template" : "power_lut_template") +
-                      " '" + template_name + "'");
+                      " '" + std::string(template_name) + "'");
     }
   }
   std::vector<TableAxisVariable> variables;

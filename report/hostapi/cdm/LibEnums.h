@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -23,7 +24,7 @@ class EnumNameMap {
     return nullptr;
   }
   // The value spelled `name`; false when the table has no such spelling.
-  bool find(const std::string& name, E& value) const {
+  bool find(std::string_view name, E& value) const {
     for (const auto& entry : entries_) {
       if (name == entry.second) {
         value = entry.first;
