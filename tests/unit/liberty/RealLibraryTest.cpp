@@ -215,6 +215,11 @@ TEST(RealLibrary, ReplacingOnlyOnSuccessAndMissingFiles) {
   EXPECT_EQ(root.GetDefaultLiberty(), second);
   EXPECT_EQ(root.LibertyLibs().size(), 1u);
   std::remove(broken.c_str());
+  const std::string binary = ::testing::TempDir() + "/binary.lib";
+  std::ofstream(binary, std::ios::binary) << std::string("library(x) {\0}", 14);
+  EXPECT_FALSE(liberty::ReadLibertyFile(&root, binary, error));
+  EXPECT_NE(error.find("is not a text file"), std::string::npos) << error;
+  std::remove(binary.c_str());
 }
 
 }  // namespace
