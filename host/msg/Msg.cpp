@@ -57,8 +57,8 @@ void WriteResult(std::string_view text) {
   if (Sinks().empty()) {
     // Text a script wrote with puts must come out first.
     if (Tcl_Channel tcl_out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(tcl_out);
+    // No flush per line: the command binding flushes when a command ends.
     std::fwrite(text.data(), 1, text.size(), stdout);
-    std::fflush(stdout);
     return;
   }
   Sinks().back()(text);
