@@ -8,8 +8,8 @@ std::vector<std::string> smartFullPermutation(int count, bool numeric) {
   const char low = numeric ? '0' : 'L';
   const char high = numeric ? '1' : 'H';
   if (count <= 0) return {numeric ? std::string("0") : std::string()};
-  // Beyond 24 symbols the list would not fit in memory; the caller's
-  // integer conversion refuses 32 and more anyway.
+  // Beyond 24 symbols only the low 24 vary: the whole list would not fit
+  // in memory.
   const int width = count > 24 ? 24 : count;
   std::vector<std::string> patterns;
   patterns.reserve(size_t{1} << width);
