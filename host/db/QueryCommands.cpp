@@ -14,10 +14,13 @@
 
 namespace {
 
+// A get_* command: patterns in, a list of names out. Design queries need a
+// current design; library queries (`needs_design` false) do not.
 class QueryCmd : public CommonCmd {
  public:
-  QueryCmd(const char* name, const char* description, const char* kind, bool hierarchical)
-      : CommonCmd(name, description, nullptr), kind_(kind) {
+  QueryCmd(const char* name, const char* description, const char* kind, bool hierarchical,
+           bool needs_design = true)
+      : CommonCmd(name, description, nullptr), kind_(kind), needs_design_(needs_design) {
     addOptions("help", "Display help info", false, ValueType::kFlag, std::any());
     if (hierarchical)
       addOptions("hierarchical", "Search every level of the hierarchy", false, ValueType::kFlag,
@@ -28,7 +31,7 @@ class QueryCmd : public CommonCmd {
 
   int exec() override {
     cdm::Design* design = cdm::DbManager::GetCurrentDesign();
-    if (!design) {
+    if (!design && needs_design_) {
       SetTclError(name() + ": no current design; run link_design first");
       return 1;
     }
@@ -37,7 +40,7 @@ class QueryCmd : public CommonCmd {
     if (getOptionValue("patterns", value))
       patterns = boost::any_cast<std::vector<std::string>>(value);
     bool all = patterns.empty();
-    if (all) patterns.push_back("*");
+    if (all) patterns.push_back(AllPattern());
     bool hierarchical = getOptionCount("hierarchical") > 0;
     std::vector<std::string> names;
     for (const std::string& pattern : patterns) {
@@ -53,9 +56,11 @@ class QueryCmd : public CommonCmd {
  protected:
   virtual void Find(const cdm::Design* design, const std::string& pattern, bool hierarchical,
                     std::vector<std::string>& names) = 0;
+  virtual const char* AllPattern() const { return "*"; }
 
  private:
   const char* kind_;
+  bool needs_design_;
 };
 
 class GetCellsCmd : public QueryCmd {
@@ -102,40 +107,28 @@ class GetPortsCmd : public QueryCmd {
   }
 };
 
-// get_libs and get_lib_cells need no design.
-class LibQueryCmd : public CommonCmd {
+class GetLibsCmd : public QueryCmd {
  public:
-  LibQueryCmd(const char* name, const char* description, const char* kind, bool cells)
-      : CommonCmd(name, description, nullptr), kind_(kind), cells_(cells) {
-    addOptions("help", "Display help info", false, ValueType::kFlag, std::any());
-    addOptions("quiet", "Say nothing when nothing matches", false, ValueType::kFlag, std::any());
-    addOptions("patterns", "Name patterns (* and ?)", true, ValueType::kStringList, std::any());
-  }
+  GetLibsCmd() : QueryCmd("get_libs", "Get technology libraries", "libs", false, false) {}
 
-  int exec() override {
-    boost::any value;
-    std::vector<std::string> patterns;
-    if (getOptionValue("patterns", value))
-      patterns = boost::any_cast<std::vector<std::string>>(value);
-    bool all = patterns.empty();
-    if (all) patterns.push_back(cells_ ? "*/*" : "*");
-    std::vector<std::string> names;
-    for (const std::string& pattern : patterns) {
-      size_t before = names.size();
-      if (cells_)
-        cdm::FindLibCellNames(cdm::DbManager::GetRoot(), pattern, names);
-      else
-        cdm::FindLibNames(cdm::DbManager::GetRoot(), pattern, names);
-      if (names.size() == before && !all && !getOptionValue("quiet"))
-        msg::Print_Result("Warning: No %s objects matched '%s'", kind_, pattern.c_str());
-    }
-    SetTclResultList(std::move(names));
-    return 0;
+ protected:
+  void Find(const cdm::Design*, const std::string& pattern, bool,
+            std::vector<std::string>& names) override {
+    cdm::FindLibNames(cdm::DbManager::GetRoot(), pattern, names);
   }
+};
 
- private:
-  const char* kind_;
-  bool cells_;
+class GetLibCellsCmd : public QueryCmd {
+ public:
+  GetLibCellsCmd()
+      : QueryCmd("get_lib_cells", "Get library cells as library/cell", "lib_cells", false, false) {}
+
+ protected:
+  void Find(const cdm::Design*, const std::string& pattern, bool,
+            std::vector<std::string>& names) override {
+    cdm::FindLibCellNames(cdm::DbManager::GetRoot(), pattern, names);
+  }
+  const char* AllPattern() const override { return "*/*"; }
 };
 
 class AllPortsCmd : public CommonCmd {
@@ -166,8 +159,8 @@ cmdlib::HostCommandRegistrar registrar([] {
   new GetNetsCmd();
   new GetPinsCmd();
   new GetPortsCmd();
-  new LibQueryCmd("get_libs", "Get technology libraries", "libs", false);
-  new LibQueryCmd("get_lib_cells", "Get library cells as library/cell", "lib_cells", true);
+  new GetLibsCmd();
+  new GetLibCellsCmd();
   new AllPortsCmd("all_inputs", "All input and inout ports of the current design", true);
   new AllPortsCmd("all_outputs", "All output and inout ports of the current design", false);
 });

@@ -66,20 +66,22 @@ class NangateTest : public ::testing::Test {
 };
 cdm::Root* NangateTest::root_ = nullptr;
 
-const char* kExample = R"(
-module ex1 (in1, in2, clk1, clk2, clk3, out);
-  input in1, in2, clk1, clk2, clk3;
-  output out;
-  wire r1q, r2q, u1z, u2z;
-  DFF_X1 r1 (.D(in1), .CK(clk1), .Q(r1q));
-  DFF_X1 r2 (.D(in2), .CK(clk2), .Q(r2q));
-  BUF_X1 u1 (.A(r2q), .Z(u1z));
-  AND2_X1 u2 (.A1(r1q), .A2(u1z), .ZN(u2z));
-  DFF_X1 r3 (.D(u2z), .CK(clk3), .Q(out));
-endmodule)";
+// example1.v: three flops, a buffer and an AND gate, module "top".
+cdm::Design* LinkExample(cdm::Root* root, std::vector<std::string>& warnings) {
+  std::vector<std::string> modules;
+  std::string error;
+  if (!root->FindDesign("top")) {
+    EXPECT_TRUE(verilog::ReadVerilogFile(root, Data("example1.v"), modules, error)) << error;
+  }
+  cdm::Design* design = root->FindDesign("top");
+  if (!design) return nullptr;
+  warnings.clear();
+  EXPECT_TRUE(cdm::LinkDesign(root, design, warnings, error)) << error;
+  return design;
+}
 
 TEST_F(NangateTest, EveryCellResolvesWithPinsOfTheLibrary) {
-  cdm::Design* top = Link(kExample, "ex1");
+  cdm::Design* top = LinkExample(root_, warnings_);
   ASSERT_NE(top, nullptr);
   EXPECT_TRUE(warnings_.empty()) << warnings_[0];
   cdm::Cell* u2 = top->FindCell("u2");
@@ -96,7 +98,7 @@ TEST_F(NangateTest, EveryCellResolvesWithPinsOfTheLibrary) {
 }
 
 TEST_F(NangateTest, DriversAndLoadsFollowLibraryDirections) {
-  cdm::Design* top = Link(kExample, "ex1");
+  cdm::Design* top = LinkExample(root_, warnings_);
   ASSERT_NE(top, nullptr);
   cdm::Net* u1z = top->FindNet("u1z");
   ASSERT_NE(u1z->GetDriverPin(), nullptr);
@@ -115,7 +117,7 @@ TEST_F(NangateTest, DriversAndLoadsFollowLibraryDirections) {
 }
 
 TEST_F(NangateTest, PathsThroughCellsStopAtSequentialCells) {
-  cdm::Design* top = Link(kExample, "ex1");
+  cdm::Design* top = LinkExample(root_, warnings_);
   ASSERT_NE(top, nullptr);
   cdm::Cell* u2 = top->FindCell("u2");
   cdm::Pin* a1 = u2->FindPin("A1");
@@ -131,7 +133,7 @@ TEST_F(NangateTest, PathsThroughCellsStopAtSequentialCells) {
 }
 
 TEST_F(NangateTest, PinCapacitanceComesFromTheLibraryInFarads) {
-  cdm::Design* top = Link(kExample, "ex1");
+  cdm::Design* top = LinkExample(root_, warnings_);
   ASSERT_NE(top, nullptr);
   float cap =
       top->FindCell("u2")->FindPin("A1")->Capacitance(cdm::RiseFall::rise_, cdm::MinMax::max_);
