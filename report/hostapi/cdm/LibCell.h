@@ -31,6 +31,8 @@ class LibCell : public Reference {
   LibertyLib* GetLibertyLib() const { return lib_; }
 
   virtual float GetArea() const { return area_; }  // of one instance
+  // Generic gates carry an estimate taken from a technology library.
+  void SetEstimatedArea(float area) { area_ = area; }
   bool DontTouch() const { return dont_touch_; }
   bool DontUse() const { return dont_use_; }
   const std::string& GetFootprint() const { return footprint_; }
