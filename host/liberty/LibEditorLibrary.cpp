@@ -79,12 +79,12 @@ bool ParseUnitText(std::string_view text, const char* symbol, const char* print_
 }  // namespace
 
 bool LibEditor::UnitAttribute(const Statement& st, bool& handled) {
-  struct UnitSpec {
+  struct UnitKind {
     const char* attribute;
     const char* symbol;
     const char* print_symbol;
   };
-  static const UnitSpec kSpecs[] = {
+  static const UnitKind kUnitKinds[] = {
       {"time_unit", "s", "s"},          {"voltage_unit", "v", "V"},
       {"current_unit", "a", "A"},       {"pulling_resistance_unit", "ohm", "ohm"},
       {"leakage_power_unit", "w", "W"},
@@ -107,12 +107,12 @@ bool LibEditor::UnitAttribute(const Statement& st, bool& handled) {
     units.capacitance = unit;
     return true;
   }
-  for (const UnitSpec& spec : kSpecs) {
-    if (st.name != spec.attribute) continue;
+  for (const UnitKind& kind : kUnitKinds) {
+    if (st.name != kind.attribute) continue;
     Unit unit;
-    if (!ParseUnitText(st.Value(), spec.symbol, spec.print_symbol, unit)) {
+    if (!ParseUnitText(st.Value(), kind.symbol, kind.print_symbol, unit)) {
       return Fail(st, "expected a unit for '" + std::string(st.name) + "' such as \"1" +
-                          (spec.symbol[0] == 's' ? "ns" : std::string("m") + spec.print_symbol) +
+                          (kind.symbol[0] == 's' ? "ns" : std::string("m") + kind.print_symbol) +
                           "\", found \"" + std::string(st.Value()) + "\"");
     }
     if (st.name == "time_unit") units.time = unit;
