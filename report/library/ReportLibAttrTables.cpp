@@ -183,55 +183,55 @@ std::string GetArcTypeSense(const cdm::LibTimingArcSet* arc) {
   const std::string unate = UnateWord(sense);
   const std::string fall = FallWord(sense);
   const std::string rise = RiseWord(sense);
-  switch (static_cast<int>(arc->GetTimingType())) {
-    case 0:
+  switch (arc->GetTimingType()) {
+    case cdm::TimingType::kClear:
       return "clear " + unate;
-    case 1:
-    case 37:
+    case cdm::TimingType::kCombinational:
+    case cdm::TimingType::kDefault:
       return unate;
-    case 2:
+    case cdm::TimingType::kCombinationalFall:
       return fall;
-    case 3:
+    case cdm::TimingType::kCombinationalRise:
       return rise;
-    case 4:
+    case cdm::TimingType::kFallingEdge:
       return "falling edge";
-    case 5:
+    case cdm::TimingType::kHoldFalling:
       return "hold falling";
-    case 6:
+    case cdm::TimingType::kHoldRising:
       return "hold rising";
-    case 7:
+    case cdm::TimingType::kMinPulseWidth:
       return "min pulse width";
-    case 17:
+    case cdm::TimingType::kPreset:
       return "preset " + unate;
-    case 18:
+    case cdm::TimingType::kRecoveryFalling:
       return "recovery falling";
-    case 19:
+    case cdm::TimingType::kRecoveryRising:
       return "recovery rising";
-    case 20:
+    case cdm::TimingType::kRemovalFalling:
       return "removal falling";
-    case 21:
+    case cdm::TimingType::kRemovalRising:
       return "removal rising";
-    case 23:
+    case cdm::TimingType::kRisingEdge:
       return "rising edge";
-    case 24:
+    case cdm::TimingType::kSetupFalling:
       return "setup falling";
-    case 25:
+    case cdm::TimingType::kSetupRising:
       return "setup rising";
-    case 26:
+    case cdm::TimingType::kSkewFalling:
       return "skew falling";
-    case 27:
+    case cdm::TimingType::kSkewRising:
       return "skew rising";
-    case 28:
+    case cdm::TimingType::kThreeStateDisable:
       return "3_state_disable " + unate;
-    case 29:
+    case cdm::TimingType::kThreeStateDisableFall:
       return "3_state_disable " + fall;
-    case 30:
+    case cdm::TimingType::kThreeStateDisableRise:
       return "3_state_disable " + rise;
-    case 31:
+    case cdm::TimingType::kThreeStateEnable:
       return "3_state_enable " + unate;
-    case 32:
+    case cdm::TimingType::kThreeStateEnableFall:
       return "3_state_enable " + fall;
-    case 33:
+    case cdm::TimingType::kThreeStateEnableRise:
       return "3_state_enable " + rise;
     default:
       return "";

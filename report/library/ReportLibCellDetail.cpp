@@ -148,72 +148,72 @@ void PrintTimingGroupHead(std::ostream& os, cdm::LibertyLib* /*lib*/, cdm::LibPo
     return "    DELAY: " + related + ", " + pin + ", " + kind + ", " + sense;
   };
   std::string line;
-  switch (static_cast<int>(attr->GetTimingType())) {
-    case 0:
+  switch (attr->GetTimingType()) {
+    case cdm::TimingType::kClear:
       line = delay("clear");
       break;
-    case 1:
-    case 37:
+    case cdm::TimingType::kCombinational:
+    case cdm::TimingType::kDefault:
       line = delay("prop");
       break;
-    case 2:
+    case cdm::TimingType::kCombinationalFall:
       line = delay("prop_f");
       break;
-    case 3:
+    case cdm::TimingType::kCombinationalRise:
       line = delay("prop_r");
       break;
-    case 17:
+    case cdm::TimingType::kPreset:
       line = delay("preset");
       break;
-    case 28:
+    case cdm::TimingType::kThreeStateDisable:
       line = delay("disable");
       break;
-    case 29:
+    case cdm::TimingType::kThreeStateDisableFall:
       line = delay("disable_f");
       break;
-    case 30:
+    case cdm::TimingType::kThreeStateDisableRise:
       line = delay("disable_r");
       break;
-    case 31:
+    case cdm::TimingType::kThreeStateEnable:
       line = delay("enable");
       break;
-    case 32:
+    case cdm::TimingType::kThreeStateEnableFall:
       line = delay("enable_f");
       break;
-    case 33:
+    case cdm::TimingType::kThreeStateEnableRise:
       line = delay("enable_r");
       break;
-    case 4:
+    case cdm::TimingType::kFallingEdge:
       line = "    SAMPLE: " + related + ", fall, " + pin + ", " + sense;
       break;
-    case 23:
+    case cdm::TimingType::kRisingEdge:
       line = "    SAMPLE: " + related + ", rise, " + pin + ", " + sense;
       break;
-    case 5:
+    case cdm::TimingType::kHoldFalling:
       line = "    HOLD: " + related + ", fall" + pin + ", ,";
       break;
-    case 6:
+    case cdm::TimingType::kHoldRising:
       line = "    HOLD: " + related + ", rise" + pin + ", ,";
       break;
-    case 24:
+    case cdm::TimingType::kSetupFalling:
       line = "    SETUP: " + pin + ", " + related + ", fall, ,";
       break;
-    case 25:
+    case cdm::TimingType::kSetupRising:
       line = "    SETUP: " + pin + ", " + related + ", rise, ,";
       break;
-    case 18:
+    case cdm::TimingType::kRecoveryFalling:
       line = "    RECOV: " + related + ", fall " + pin + ",  ,";
       break;
-    case 19:
+    case cdm::TimingType::kRecoveryRising:
       line = "    RECOV: " + related + ", rise " + pin + ",  ,";
       break;
-    case 20:
+    case cdm::TimingType::kRemovalFalling:
       line = "    REMOVAL: " + related + ", fall " + pin + ",  ,";
       break;
-    case 21:
+    case cdm::TimingType::kRemovalRising:
       line = "    REMOVAL: " + related + ", rise " + pin + ",  ,";
       break;
-    case 7:
+    case cdm::TimingType::kMinPulseWidth:
       line = "    MPW: " + pin + ",  ,";
       break;
     default:
