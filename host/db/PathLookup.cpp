@@ -77,6 +77,7 @@ Design* Root::AddDesign(std::unique_ptr<Design> design) {
   Design* added = design.get();
   designs_.push_back(added);
   Own(std::move(design));
+  NoteChange();
   return added;
 }
 

@@ -29,6 +29,7 @@ LibertyLib* Root::AddLibertyLib(std::unique_ptr<LibertyLib> lib) {
   if (!replaced) liberty_libs_.push_back(added);
   if (!default_liberty_) default_liberty_ = added;
   Own(std::move(lib));
+  NoteChange();
   return added;
 }
 

@@ -2,6 +2,7 @@
 // names that every object points to.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -35,7 +36,10 @@ class Root {
   // library becomes the default one.
   LibertyLib* AddLibertyLib(std::unique_ptr<LibertyLib> lib);
   LibertyLib* GetDefaultLiberty() const { return default_liberty_; }
-  void SetDefaultLiberty(LibertyLib* lib) { default_liberty_ = lib; }
+  void SetDefaultLiberty(LibertyLib* lib) {
+    default_liberty_ = lib;
+    NoteChange();
+  }
   // The built-in generic library, made on first use.
   LibertyLib* GetGenericLib();
 
@@ -44,7 +48,17 @@ class Root {
   const std::vector<Design*>& Designs() const { return designs_; }
   Design* AddDesign(std::unique_ptr<Design> design);
   Design* GetCurrentDesign() const { return current_design_; }
-  void SetCurrentDesign(Design* design) { current_design_ = design; }
+  void SetCurrentDesign(Design* design) {
+    current_design_ = design;
+    NoteChange();
+  }
+
+  // Counts changes of the netlist, of the libraries it is linked to and of
+  // the current design (read, link, current_design, a library replaced).
+  // Constraints and timing kept on database objects compare it with the
+  // value they were made at to know when they are stale.
+  uint64_t ChangeGeneration() const { return generation_; }
+  void NoteChange() { ++generation_; }
 
  private:
   // Takes ownership of any database object (libraries, designs).
@@ -57,6 +71,7 @@ class Root {
   LibertyLib* generic_lib_ = nullptr;
   std::vector<Design*> designs_;
   Design* current_design_ = nullptr;
+  uint64_t generation_ = 1;
 };
 
 }  // namespace cdm

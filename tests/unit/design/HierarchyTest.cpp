@@ -274,4 +274,18 @@ TEST_F(DesignTest, RelinkRebuildsPinsWithoutDuplicates) {
   EXPECT_EQ(loads.size(), 3u);
 }
 
+// What stays valid between commands is judged by this counter: every read,
+// link and change of the current design must move it, and nothing else.
+TEST_F(DesignTest, ChangeGenerationMovesOnReadLinkAndCurrentDesign) {
+  const uint64_t empty = root_.ChangeGeneration();
+  cdm::Design* top = Load(
+      "module leaf (a); input a; endmodule\nmodule top (x); input x; leaf u (.a(x)); endmodule\n");
+  ASSERT_NE(top, nullptr);
+  const uint64_t linked = root_.ChangeGeneration();
+  EXPECT_GT(linked, empty);
+  EXPECT_EQ(root_.ChangeGeneration(), linked) << "reading the counter must not move it";
+  root_.SetCurrentDesign(root_.FindDesign("leaf"));
+  EXPECT_GT(root_.ChangeGeneration(), linked);
+}
+
 }  // namespace
