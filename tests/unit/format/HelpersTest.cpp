@@ -2,7 +2,7 @@
 
 #include <regex>
 
-#include "CaptureResult.h"
+#include "support/CaptureResult.h"
 #include "format/ReportMgr.h"
 #include "format/ReportPrint.h"
 #include "hostapi/cdm/Pin.h"

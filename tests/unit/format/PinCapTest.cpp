@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "design/DesignTestUtil.h"
+#include "support/DesignTestUtil.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Pin.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "CaptureResult.h"
+#include "support/CaptureResult.h"
 #include "format/ReportPrint.h"
 
 namespace {

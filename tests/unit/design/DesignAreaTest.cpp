@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "design/DesignArea.h"
-#include "design/DesignTestUtil.h"
+#include "support/DesignTestUtil.h"
 #include "hostapi/cdm/Cell.h"
 #include "liberty/LibertyReader.h"
 

@@ -1,4 +1,4 @@
-#include "DesignTestUtil.h"
+#include "support/DesignTestUtil.h"
 #include "db/DesignQuery.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include <memory>
 
-#include "DesignTestUtil.h"
+#include "support/DesignTestUtil.h"
 #include "db/PathLookup.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DesignIterators.h"
