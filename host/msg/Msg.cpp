@@ -64,13 +64,23 @@ void WriteResult(std::string_view text) {
   Sinks().back()(text);
 }
 
-void Print_Result(const char* format, ...) {
+void PrintResultFormatted(const char* format, ...) {
   va_list args;
   va_start(args, format);
   std::string text = FormatV(format, args);
   va_end(args);
   text.push_back('\n');
   WriteResult(text);
+}
+
+void Print_Result(const char* text) {
+  std::string line;
+  for (const char* c = text ? text : ""; *c; ++c) {
+    line.push_back(*c);
+    if (c[0] == '%' && c[1] == '%') ++c;
+  }
+  line.push_back('\n');
+  WriteResult(line);
 }
 
 void InsertEmptyLine() {

@@ -36,18 +36,6 @@ void PrintCellSummary(std::ostream& os, cdm::LibertyLib* lib, const CellNames& n
   os << "\nNumber of reported cells: " << reported << "\n";
 }
 
-// The report text is handed over as a format; a '%' of a library text must
-// come out as itself, not as a conversion that reads missing arguments.
-std::string AsFormat(const std::string& text) {
-  std::string format;
-  format.reserve(text.size());
-  for (char c : text) {
-    format.push_back(c);
-    if (c == '%') format.push_back('%');
-  }
-  return format;
-}
-
 void PrintCellAttrForm(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names) {
   PrintBasicInfo(os, lib);
   PrintCellPinAttrList(os);
@@ -142,6 +130,6 @@ int ReportLibCmd::exec() {
   } else {
     PrintCellAttrForm(os, lib, names);
   }
-  msg::Print_Result(AsFormat(os.str()).c_str());
+  msg::Print_Result(os.str().c_str());
   return 0;
 }

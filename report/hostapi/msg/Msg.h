@@ -21,7 +21,17 @@ const char* TagName(MsgTag tag);
 void ReportMsg(MsgTag tag, ...);
 
 // printf-style text on the result channel; a newline always follows it.
-void Print_Result(const char* format, ...) __attribute__((format(printf, 1, 2)));
+void PrintResultFormatted(const char* format, ...) __attribute__((format(printf, 1, 2)));
+
+template <class First, class... Rest>
+void Print_Result(const char* format, First first, Rest... rest) {
+  PrintResultFormatted(format, first, rest...);
+}
+
+// A text passed with nothing to fill in, as reports pass text they composed
+// themselves (a name in it may hold a "%"): "%%" prints one "%", and any
+// other conversion prints as written, since no argument is there to read.
+void Print_Result(const char* text);
 
 // One empty line on the result channel.
 void InsertEmptyLine();

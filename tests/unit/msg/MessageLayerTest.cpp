@@ -39,6 +39,20 @@ TEST(PrintResult, PercentInAnArgumentIsPrintedAsItIs) {
   EXPECT_EQ(out.text(), "load 50% of %d\na%b     |\n");
 }
 
+// A report that composed its text itself passes it alone, as the format:
+// only "%%" is a conversion there; nothing may read an argument that was
+// never passed.
+TEST(PrintResult, TextAloneReadsNoArgument) {
+  Capture out;
+  msg::Print_Result("Design : pct%s and %d, %5.2f, %n%%");
+  msg::Print_Result("100%% done, 50%%% left, %");
+  msg::Print_Result(nullptr);
+  EXPECT_EQ(out.text(),
+            "Design : pct%s and %d, %5.2f, %n%\n"
+            "100% done, 50%% left, %\n"
+            "\n");
+}
+
 TEST(PrintResult, LongTextIsNotCut) {
   Capture out;
   std::string longText(10000, 'x');
