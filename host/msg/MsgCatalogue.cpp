@@ -9,6 +9,8 @@ const CatalogueEntry kCatalogue[] = {
     {COMMON_001, Severity::kWarning, "Cannot find object '%s' in design '%s'."},
     {Report_001, Severity::kInfo, "%s: option '%s' is accepted and ignored by this tool."},
     {Report_002, Severity::kWarning, "Cannot find port '%s' in design '%s'."},
+    {STA_001, Severity::kWarning,
+     "Combinational loop cut at the arc from '%s' to '%s'; the loop's pins: %s."},
 };
 
 }  // namespace
