@@ -3,7 +3,7 @@
 # and does nothing when all of it is there.
 set -euo pipefail
 
-packages=(g++ cmake make tcl-dev libboost-dev zlib1g-dev libgtest-dev libbenchmark-dev)
+packages=(g++ cmake make tcl-dev libboost-dev zlib1g-dev libgtest-dev libbenchmark-dev python3)
 missing=()
 for package in "${packages[@]}"; do
   if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then

@@ -1,5 +1,6 @@
 #include "cmdlib/ArgParser.h"
 
+#include <sys/stat.h>
 #include <tcl.h>
 
 #include <cerrno>
@@ -77,6 +78,21 @@ bool AppendList(ParsedOption& slot, const std::string& text, ReadOne read_one) {
   return true;
 }
 
+// A word that names something on disk is one file even with blanks in its
+// name; any other word is split as a Tcl list.
+bool AppendFiles(ParsedOption& slot, const std::string& text) {
+  struct stat info;
+  if (!text.empty() && ::stat(text.c_str(), &info) == 0) {
+    std::vector<std::string> items;
+    if (slot.count > 0 && !slot.value.empty())
+      items = boost::any_cast<std::vector<std::string>>(slot.value);
+    items.push_back(text);
+    slot.value = std::move(items);
+    return true;
+  }
+  return AppendList<std::string>(slot, text, ParseText);
+}
+
 bool StoreValue(CommonCmd::State& state, const OptionDecl& decl, const std::string& text,
                 std::string& error) {
   ParsedOption& slot = state.parsed[decl.name];
@@ -98,6 +114,10 @@ bool StoreValue(CommonCmd::State& state, const OptionDecl& decl, const std::stri
     case ValueType::kStringList:
       expected = "a list";
       ok = AppendList<std::string>(slot, text, ParseText);
+      break;
+    case ValueType::kFileList:
+      expected = "a list of files";
+      ok = AppendFiles(slot, text);
       break;
     case ValueType::kIntegerList:
       expected = "a list of integers";
@@ -170,7 +190,8 @@ ParseOutcome ParseInto(CommonCmd::State& state, const std::vector<std::string>& 
     const OptionDecl* target = nullptr;
     if (next_positional < positionals.size()) {
       target = positionals[next_positional++];
-    } else if (!positionals.empty() && positionals.back()->type == ValueType::kStringList) {
+    } else if (!positionals.empty() && (positionals.back()->type == ValueType::kStringList ||
+                                        positionals.back()->type == ValueType::kFileList)) {
       target = positionals.back();  // further bare words join the trailing list
     }
     if (!target) {

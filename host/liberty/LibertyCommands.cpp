@@ -1,8 +1,10 @@
-// read_liberty FILE and set_default_library NAME.
+// read_liberty FILES and set_default_library NAME.
 #include <boost/any.hpp>
 #include <string>
+#include <vector>
 
 #include "cmdlib/HostCommands.h"
+#include "cmdlib/ReadFiles.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Root.h"
@@ -14,25 +16,28 @@ namespace {
 class ReadLibertyCmd : public CommonCmd {
  public:
   ReadLibertyCmd()
-      : CommonCmd("read_liberty", "Read a Liberty library (plain or gzip-compressed)", nullptr) {
+      : CommonCmd("read_liberty", "Read Liberty libraries (plain or gzip-compressed)", nullptr) {
     addOptions("help", "Display help info", false, ValueType::kFlag, std::any());
-    addOptions("file", "Liberty file to read", true, ValueType::kString, std::any());
+    cmdlib::AddFileListOption(*this, "Liberty files to read");
   }
 
+  // The result is the names of the libraries read, one per file.
   int exec() override {
-    boost::any value;
-    if (!getOptionValue("file", value)) {
-      SetTclError("read_liberty: expected a file name");
-      return 1;
-    }
-    const std::string path = boost::any_cast<std::string>(value);
+    std::vector<std::string> names;
     std::string error;
-    cdm::LibertyLib* lib = liberty::ReadLibertyFile(cdm::DbManager::GetRoot(), path, error);
-    if (!lib) {
+    bool read = cmdlib::ReadFiles(
+        cmdlib::GivenFiles(*this),
+        [&names](const std::string& path, std::string& why) {
+          cdm::LibertyLib* lib = liberty::ReadLibertyFile(cdm::DbManager::GetRoot(), path, why);
+          if (lib) names.push_back(lib->Name());
+          return lib != nullptr;
+        },
+        error);
+    if (!read) {
       SetTclError("read_liberty: " + error);
       return 1;
     }
-    SetTclResult(lib->Name());
+    SetTclResultList(std::move(names));
     return 0;
   }
 };

@@ -1,12 +1,12 @@
-// read_verilog FILE: adds the modules of a netlist to the database.
+// read_verilog FILES: adds the modules of netlists to the database.
 #include <boost/any.hpp>
 #include <string>
 #include <vector>
 
 #include "cmdlib/HostCommands.h"
+#include "cmdlib/ReadFiles.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cmd/CommonCmd.h"
-#include "hostapi/msg/Msg.h"
 #include "verilog/VerilogReader.h"
 
 namespace {
@@ -14,25 +14,29 @@ namespace {
 class ReadVerilogCmd : public CommonCmd {
  public:
   ReadVerilogCmd()
-      : CommonCmd("read_verilog", "Read a structural Verilog netlist (plain or gzipped)", nullptr) {
+      : CommonCmd("read_verilog", "Read structural Verilog netlists (plain or gzipped)", nullptr) {
     addOptions("help", "Display help info", false, ValueType::kFlag, std::any());
-    addOptions("file_name", "Netlist file", true, ValueType::kString, std::any());
+    cmdlib::AddFileListOption(*this, "Netlist files to read");
   }
 
+  // The result is the names of the modules read, in file order.
   int exec() override {
-    boost::any value;
-    if (!getOptionValue("file_name", value)) {
-      SetTclError("read_verilog: missing file name");
-      return 1;
-    }
-    std::string path = boost::any_cast<std::string>(value);
     std::vector<std::string> modules;
     std::string error;
-    if (!verilog::ReadVerilogFile(cdm::DbManager::GetRoot(), path, modules, error)) {
+    bool read = cmdlib::ReadFiles(
+        cmdlib::GivenFiles(*this),
+        [&modules](const std::string& path, std::string& why) {
+          std::vector<std::string> names;
+          if (!verilog::ReadVerilogFile(cdm::DbManager::GetRoot(), path, names, why)) return false;
+          modules.insert(modules.end(), names.begin(), names.end());
+          return true;
+        },
+        error);
+    if (!read) {
       SetTclError("read_verilog: " + error);
       return 1;
     }
-    SetTclResultList(modules);
+    SetTclResultList(std::move(modules));
     return 0;
   }
 };

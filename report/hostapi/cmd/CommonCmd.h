@@ -20,6 +20,9 @@ enum class ValueType : int {
   kIntegerList = 5,
   kDoubleList = 6,
   kStringList = 7,
+  // Files of a read command: a word that names a file is one file, any other
+  // word is a Tcl list of files (so [glob ...] works). Read as a string list.
+  kFileList = 8,
 };
 
 // Which module a command belongs to.

@@ -1,0 +1,69 @@
+#include "cmdlib/ReadFiles.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <boost/any.hpp>
+#include <cerrno>
+#include <cstring>
+
+#include "hostapi/cmd/CommonCmd.h"
+
+namespace cmdlib {
+namespace {
+
+constexpr const char* kFileOption = "file_names";
+
+// Why `path` cannot be read at all, or "" when it looks readable.
+std::string Unreadable(const std::string& path) {
+  struct stat info;
+  if (::stat(path.c_str(), &info) != 0)
+    return "cannot open '" + path + "': " + std::strerror(errno);
+  if (S_ISDIR(info.st_mode)) return "cannot read '" + path + "': it is a folder";
+  if (::access(path.c_str(), R_OK) != 0)
+    return "cannot open '" + path + "': " + std::strerror(errno);
+  return "";
+}
+
+std::string JoinNames(const std::vector<std::string>& files, size_t from, size_t to) {
+  std::string text;
+  for (size_t i = from; i < to; ++i) text += (text.empty() ? "" : ", ") + files[i];
+  return text;
+}
+
+}  // namespace
+
+void AddFileListOption(CommonCmd& command, const char* help) {
+  command.addOptions(kFileOption, help, true, ValueType::kFileList, std::any());
+}
+
+std::vector<std::string> GivenFiles(CommonCmd& command) {
+  boost::any value;
+  if (!command.getOptionValue(kFileOption, value)) return {};
+  return boost::any_cast<std::vector<std::string>>(value);
+}
+
+bool ReadFiles(const std::vector<std::string>& files, const ReadOneFile& read_one,
+               std::string& error) {
+  if (files.empty()) {
+    error = "no file given";
+    return false;
+  }
+  for (const std::string& path : files) {
+    error = Unreadable(path);
+    if (!error.empty()) {
+      if (files.size() > 1) error += "; no file was read";
+      return false;
+    }
+  }
+  for (size_t i = 0; i < files.size(); ++i) {
+    if (read_one(files[i], error)) continue;
+    if (i > 0) error += "; read before it: " + JoinNames(files, 0, i);
+    if (i + 1 < files.size()) error += "; not read: " + JoinNames(files, i + 1, files.size());
+    return false;
+  }
+  error.clear();
+  return true;
+}
+
+}  // namespace cmdlib
