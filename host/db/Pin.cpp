@@ -36,17 +36,28 @@ uint8_t Pin::GetDirection() const {
   return port_ ? port_->direction : static_cast<uint8_t>(kDirInternal);
 }
 
+namespace {
+
+// A pin that only drives (or only loads) its net stands in its own fan-in
+// (fan-out): the cone of an output pin starts at that pin. An inout pin,
+// both at once, leaves itself out of both.
+const Pin* SkippedSelf(const Pin* pin) {
+  return pin->IsNetDriver() && pin->IsNetLoad() ? pin : nullptr;
+}
+
+}  // namespace
+
 void Pin::GetFaninPins(std::vector<const Pin*>& pins, HierarchyMode mode) const {
-  if (net_) CollectNetPins(net_, mode, true, this, pins);
+  if (net_) CollectNetPins(net_, mode, true, SkippedSelf(this), pins);
 }
 void Pin::GetFanoutPins(std::vector<const Pin*>& pins, HierarchyMode mode) const {
-  if (net_) CollectNetPins(net_, mode, false, this, pins);
+  if (net_) CollectNetPins(net_, mode, false, SkippedSelf(this), pins);
 }
 void Pin::GetFaninPins(std::vector<Pin*>& pins, HierarchyMode mode) const {
-  if (net_) CollectNetPins(net_, mode, true, this, pins);
+  if (net_) CollectNetPins(net_, mode, true, SkippedSelf(this), pins);
 }
 void Pin::GetFanoutPins(std::vector<Pin*>& pins, HierarchyMode mode) const {
-  if (net_) CollectNetPins(net_, mode, false, this, pins);
+  if (net_) CollectNetPins(net_, mode, false, SkippedSelf(this), pins);
 }
 
 Pin* Pin::GetCurrentDriverPin() const {

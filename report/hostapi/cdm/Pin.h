@@ -44,8 +44,10 @@ class Pin : public Object {
   bool IsNetLoad() const { return (flags_ & kLoad) != 0; }
 
   // Pins one net away: drivers (fan-in) or loads (fan-out) of this pin's
-  // net, this pin left out. Mode 0 stays at the net's level, mode 1 goes
-  // through hierarchy to leaf pins and top port pins.
+  // net. A pin that only drives (loads) the net is in its own fan-in
+  // (fan-out), so that a cone from an output pin starts there; an inout pin
+  // leaves itself out. Mode 0 stays at the net's level, mode 1 goes through
+  // hierarchy to leaf pins and top port pins.
   void GetFaninPins(std::vector<const Pin*>& pins, HierarchyMode mode) const;
   void GetFanoutPins(std::vector<const Pin*>& pins, HierarchyMode mode) const;
   void GetFaninPins(std::vector<Pin*>& pins, HierarchyMode mode) const;

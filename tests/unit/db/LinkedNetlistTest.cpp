@@ -114,6 +114,13 @@ TEST_F(NangateTest, DriversAndLoadsFollowLibraryDirections) {
   top->FindPin("out")->GetFaninPins(drivers, cdm::kHierFlat);
   EXPECT_EQ(FullNames(drivers), std::vector<std::string>{"r3/Q"});
   EXPECT_EQ(top->FindCell("u2")->FindPin("A1")->GetCurrentDriverPin()->GetFullName(), "r1/Q");
+  // A driver is its own fan-in, a load its own fan-out: cones start there.
+  drivers.clear();
+  u1z->GetDriverPin()->GetFaninPins(drivers, cdm::kHierFlat);
+  EXPECT_EQ(FullNames(drivers), std::vector<std::string>{"u1/Z"});
+  loads.clear();
+  top->FindCell("u2")->FindPin("A2")->GetFanoutPins(loads, cdm::kHierFlat);
+  EXPECT_EQ(FullNames(loads), std::vector<std::string>{"u2/A2"});
 }
 
 TEST_F(NangateTest, PathsThroughCellsStopAtSequentialCells) {
