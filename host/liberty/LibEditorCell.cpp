@@ -330,10 +330,10 @@ void LibEditor::FinishCell(LibCell* cell) {
       }
     }
   }
-  // Buffer / inverter: one input, one output whose function is that input
-  // or its inverse.
+  // Buffer / inverter: one input, and outputs whose functions are all that
+  // input (a buffer, also one with several outputs) or all its inverse.
   LibPort* input = nullptr;
-  LibPort* output = nullptr;
+  std::vector<LibPort*> output_ports;
   int inputs = 0;
   int outputs = 0;
   int const0 = 0;
@@ -344,20 +344,25 @@ void LibEditor::FinishCell(LibCell* cell) {
       input = port;
     } else if (port->direction == kDirOutput || port->direction == kDirInout) {
       ++outputs;
-      output = port;
+      output_ports.push_back(port);
       const LibBoolFuncExpr* function = port->GetFunction();
       if (function && function->GetFuncPorts().empty() && !function->IsEmpty()) {
         (function->Evaluate([](const LibPort*) { return 0; }) ? const1 : const0)++;
       }
     }
   }
-  if (inputs == 1 && outputs == 1 && !cell->IsSequentialCell() && output->GetFunction() &&
-      output->GetFunction()->GetFuncPorts().size() == 1 &&
-      output->GetFunction()->GetFuncPorts()[0] == input) {
-    const std::vector<bool> table = output->GetFunction()->TruthTable();
-    if (table.size() == 2 && !table[0] && table[1]) cell->one_input_kind_ = 1;
-    if (table.size() == 2 && table[0] && !table[1]) cell->one_input_kind_ = 2;
+  int kind = inputs == 1 && outputs >= 1 && !cell->IsSequentialCell() ? -1 : 0;
+  for (size_t i = 0; kind != 0 && i < output_ports.size(); ++i) {
+    const LibBoolFuncExpr* function = output_ports[i]->GetFunction();
+    int this_kind = 0;
+    if (function && function->GetFuncPorts().size() == 1 && function->GetFuncPorts()[0] == input) {
+      const std::vector<bool> table = function->TruthTable();
+      if (table.size() == 2 && !table[0] && table[1]) this_kind = 1;
+      if (table.size() == 2 && table[0] && !table[1]) this_kind = 2;
+    }
+    kind = kind == -1 || kind == this_kind ? this_kind : 0;
   }
+  if (kind > 0) cell->one_input_kind_ = kind;
   if (outputs > 0 && const0 == outputs) cell->const_value_ = 0;
   if (outputs > 0 && const1 == outputs) cell->const_value_ = 1;
 }

@@ -188,4 +188,31 @@ TEST(CellDetail, RootLibraryList) {
   EXPECT_EQ(a2->GetLibFileName(), "a2.lib");
 }
 
+// Buffer trees are walked through cells with one input whose outputs all
+// repeat it (or all invert it); a cell that mixes the two is neither.
+TEST(CellDetail, BuffersAndInvertersWithSeveralOutputs) {
+  cdm::Root root;
+  auto parsed = Parse(root, Wrap("  cell(B2) { pin(A) { direction : input; }\n"
+                                 "    pin(Y1) { direction : output; function : \"A\"; }\n"
+                                 "    pin(Y2) { direction : output; function : \"!!A\"; } }\n"
+                                 "  cell(I2) { pin(A) { direction : input; }\n"
+                                 "    pin(Y1) { direction : output; function : \"!A\"; }\n"
+                                 "    pin(Y2) { direction : output; function : \"!A\"; } }\n"
+                                 "  cell(MIX) { pin(A) { direction : input; }\n"
+                                 "    pin(Y1) { direction : output; function : \"A\"; }\n"
+                                 "    pin(Y2) { direction : output; function : \"!A\"; } }\n"
+                                 "  cell(HALF) { pin(A) { direction : input; }\n"
+                                 "    pin(Y1) { direction : output; function : \"A\"; }\n"
+                                 "    pin(Y2) { direction : output; } }\n"));
+  ASSERT_TRUE(parsed.lib) << parsed.error;
+  const cdm::LibCell* b2 = parsed.lib->GetLibCell("B2");
+  EXPECT_TRUE(b2->IsBuffer());
+  EXPECT_EQ(b2->GetCellToPorts(b2->FindPort("A")).size(), 2u);
+  EXPECT_TRUE(parsed.lib->GetLibCell("I2")->IsInverter());
+  for (const char* name : {"MIX", "HALF"}) {
+    EXPECT_FALSE(parsed.lib->GetLibCell(name)->IsBuffer()) << name;
+    EXPECT_FALSE(parsed.lib->GetLibCell(name)->IsInverter()) << name;
+  }
+}
+
 }  // namespace
