@@ -1,7 +1,10 @@
 // report_buffer_tree: from a driver, forward through every buffer and
 // inverter, one line per load, top-level port and further driver of the
 // tree, depth first.
+#include <ctime>
+#include <iomanip>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -15,6 +18,13 @@
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
 #include "hostapi/msg/Msg.h"
+
+std::string GetTime() {
+  std::time_t now = std::time(nullptr);
+  std::ostringstream out;
+  out << std::put_time(std::localtime(&now), "%a %b %e %T %Y");
+  return out.str();
+}
 
 // A top-level port's pin: a pin without a cell.
 bool IsPortTerminal(cdm::Pin const* pin) {

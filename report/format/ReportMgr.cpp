@@ -264,8 +264,3 @@ void PinCap(const cdm::Pin* pin, std::vector<float>& caps) {
   caps.push_back(pin->Capacitance(cdm::RiseFall::rise_, cdm::MinMax::max_));
   caps.push_back(pin->Capacitance(cdm::RiseFall::fall_, cdm::MinMax::max_));
 }
-
-// Used by report_buffer_tree; it may move to that report's file.
-std::string GetTime() {
-  return LocalTimeText("%a %b %e %T %Y");
-}
