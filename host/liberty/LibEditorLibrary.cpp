@@ -200,6 +200,7 @@ bool LibEditor::WireLoadGroup(const Statement& st) {
   if (!NeedValues(st, 1)) return false;
   auto wire_load = std::make_unique<WireLoad>();
   wire_load->name = std::string(st.Value());
+  wire_load->library = lib_;
   for (const Statement& child : st.children) {
     if (child.name == "resistance") {
       if (!Number(child, wire_load->resistance)) return false;

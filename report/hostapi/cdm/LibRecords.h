@@ -12,6 +12,8 @@
 
 namespace cdm {
 
+class LibertyLib;
+
 class OperatingConditions {
  public:
   std::string name;
@@ -26,6 +28,7 @@ class OperatingConditions {
 class WireLoad {
  public:
   std::string name;
+  LibertyLib* library = nullptr;  // the library that holds the model
   float resistance = 0.0f;
   float capacitance = 0.0f;
   float area = 0.0f;

@@ -150,6 +150,7 @@ TEST(ReaderSyntax, LibraryAttributesUnitsAndDefaults) {
   EXPECT_FLOAT_EQ(lib.GetDefaultOperatingConditions()->temperature, 125.0f);
   EXPECT_EQ(cdm::to_string(lib.GetDefaultOperatingConditions()->tree), "worst_case_tree");
   ASSERT_TRUE(lib.GetDefaultWireLoad());
+  EXPECT_EQ(lib.GetDefaultWireLoad()->library, &lib);
   EXPECT_FLOAT_EQ(lib.GetDefaultWireLoad()->LengthFor(2), 2.5f);
   EXPECT_FLOAT_EQ(lib.GetDefaultWireLoad()->LengthFor(4), 2.5f + 2 * 4.0f);
   ASSERT_EQ(lib.GetUserDefinedAttrs().count("drive_strength"), 1u);
