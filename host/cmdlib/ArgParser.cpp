@@ -94,7 +94,7 @@ bool AppendFiles(ParsedOption& slot, const std::string& text) {
 }
 
 bool StoreValue(CommonCmd::State& state, const OptionDecl& decl, const std::string& text,
-                std::string& error) {
+                size_t arg_index, std::string& error) {
   ParsedOption& slot = state.parsed[decl.name];
   bool ok = true;
   const char* expected = "";
@@ -137,6 +137,7 @@ bool StoreValue(CommonCmd::State& state, const OptionDecl& decl, const std::stri
     return false;
   }
   ++slot.count;
+  slot.arg_indices.push_back(arg_index);
   return true;
 }
 
@@ -181,7 +182,8 @@ ParseOutcome ParseInto(CommonCmd::State& state, const std::vector<std::string>& 
         outcome.error = state.name + ": option '-" + decl->name + "' needs a value";
         return outcome;
       }
-      if (!StoreValue(state, *decl, args[++i], outcome.error)) {
+      ++i;
+      if (!StoreValue(state, *decl, args[i], i, outcome.error)) {
         outcome.ok = false;
         return outcome;
       }
@@ -199,7 +201,7 @@ ParseOutcome ParseInto(CommonCmd::State& state, const std::vector<std::string>& 
       outcome.error = state.name + ": unexpected argument '" + arg + "'";
       return outcome;
     }
-    if (!StoreValue(state, *target, arg, outcome.error)) {
+    if (!StoreValue(state, *target, arg, i, outcome.error)) {
       outcome.ok = false;
       return outcome;
     }

@@ -43,6 +43,14 @@ void CommonCmd::State::ResetCall() {
   result_is_list = false;
   has_error = false;
   error.clear();
+  SetResultObject(nullptr);
+}
+
+void CommonCmd::State::SetResultObject(Tcl_Obj* object) {
+  if (object) Tcl_IncrRefCount(object);
+  if (result_object) Tcl_DecrRefCount(result_object);
+  result_object = object;
+  if (object) has_result = true;
 }
 
 CommonCmd::CommonCmd(const char* name, const char* description, const char*)
@@ -101,12 +109,14 @@ const std::string& CommonCmd::description() const {
 }
 
 void CommonCmd::SetTclResult(std::string value) {
+  state_->SetResultObject(nullptr);
   state_->has_result = true;
   state_->result_is_list = false;
   state_->result = std::move(value);
 }
 
 void CommonCmd::SetTclResultList(std::vector<std::string> items) {
+  state_->SetResultObject(nullptr);
   state_->has_result = true;
   state_->result_is_list = true;
   state_->result_list = std::move(items);

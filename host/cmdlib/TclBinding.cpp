@@ -13,6 +13,10 @@ namespace cmdlib {
 namespace {
 
 void SetResult(Tcl_Interp* interp, const CommonCmd::State& state) {
+  if (state.result_object) {
+    Tcl_SetObjResult(interp, state.result_object);
+    return;
+  }
   if (!state.result_is_list) {
     Tcl_SetObjResult(interp, Tcl_NewStringObj(state.result.c_str(), -1));
     return;
@@ -32,6 +36,8 @@ int RunCommand(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const obj
 
   FlushOutputs();
   ParseOutcome outcome = ParseArguments(state, args);
+  state.interp = interp;
+  state.call_objects.assign(objv + 1, objv + objc);
   if (!outcome.ok) {
     Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + outcome.error).c_str(), -1));
     return TCL_ERROR;

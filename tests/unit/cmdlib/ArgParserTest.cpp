@@ -165,4 +165,14 @@ TEST(SurplusArguments, RefusedWhenNoListTakesThem) {
   EXPECT_EQ(outcome.error, "two_flags: unexpected argument 'b'");
 }
 
+// Host commands read the objects behind their values: each use of an option
+// remembers which argument held its value.
+TEST_F(ParserTest, EachUseRemembersWhereItsValueStood) {
+  ASSERT_TRUE(Parse({"-through", "a", "top", "-through", "b c", "n1", "n2"}).ok);
+  const ParsedOption& through = Cmd().state().parsed.at("through");
+  EXPECT_EQ(through.arg_indices, (std::vector<size_t>{1, 4}));
+  EXPECT_EQ(Cmd().state().parsed.at("design").arg_indices, (std::vector<size_t>{2}));
+  EXPECT_EQ(Cmd().state().parsed.at("objects").arg_indices, (std::vector<size_t>{5, 6}));
+}
+
 }  // namespace
