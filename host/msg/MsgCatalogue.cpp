@@ -9,6 +9,12 @@ const CatalogueEntry kCatalogue[] = {
     {COMMON_001, Severity::kWarning, "Cannot find object '%s' in design '%s'."},
     {Report_001, Severity::kInfo, "%s: option '%s' is accepted and ignored by this tool."},
     {Report_002, Severity::kWarning, "Cannot find port '%s' in design '%s'."},
+    {SDC_003, Severity::kWarning, "Dropped %s on %s '%s': it no longer exists in design '%s'."},
+    {SDC_004, Severity::kWarning,
+     "Dropped clock '%s': none of its sources exists in design '%s' any more."},
+    {SDC_005, Severity::kWarning,
+     "Dropped a timing exception of design '%s': all objects of one of its -from, -through "
+     "or -to lists are gone."},
     {STA_001, Severity::kWarning,
      "Combinational loop cut at the arc from '%s' to '%s'; the loop's pins: %s."},
 };

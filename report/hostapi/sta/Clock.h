@@ -94,6 +94,9 @@ class Clock : public cdm::Object {
   cdm::RiseFallMinMax transition_;
   ClockEdge rise_edge_;
   ClockEdge fall_edge_;
+  // To find the pins again after the netlist changed.
+  std::vector<std::string> source_names_;
+  std::string generated_source_name_;
 };
 
 }  // namespace sta::sdc

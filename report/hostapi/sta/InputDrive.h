@@ -66,6 +66,9 @@ class InputDrive {
   bool getDriveCellDontScale(const cdm::RiseFall* edge, const cdm::MinMax* minmax) const;
   bool getDriveCellNoDR(const cdm::RiseFall* edge, const cdm::MinMax* minmax) const;
 
+  // Some edge and min/max has a driving cell.
+  bool hasDriveCell() const;
+
   // The records as they stand.
   const cdm::RiseFallMinMax& getDriveResistances() const { return resistance_; }
   const cdm::RiseFallMinMax& getSlews() const { return slew_; }

@@ -2,6 +2,7 @@
 // to a clock edge. Delays are in seconds.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "hostapi/cdm/Selectors.h"
@@ -43,6 +44,7 @@ class PortDelay {
   cdm::RiseFallMinMax delays_;
   bool network_latency_included_ = false;
   bool source_latency_included_ = false;
+  std::string ref_pin_name_;  // to find the pin again after the netlist changed
 };
 
 class InputDelay : public PortDelay {};
