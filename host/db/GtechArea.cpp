@@ -1,7 +1,14 @@
 // Area estimates for generic-library cells before mapping: each generic
 // gate takes the area of the smallest default-library cell that computes
 // the same function (inputs in any order), or 0 when none does. Sequential
-// generic cells and cells of more than one output keep 0.
+// generic cells, constants and cells of more than one output keep 0.
+//
+// A generic gate's GetArea asks for its estimate itself, again whenever the
+// root's change generation moved (a library read or replaced, the default
+// library changed, a design read or linked), so that every report sees the
+// same figure at every moment whichever ran first.
+#include "db/GtechArea.h"
+
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -78,9 +85,14 @@ bool Equivalent(const Gate& generic, const Gate& candidate) {
   return false;
 }
 
-float SmallestEquivalentArea(const LibCell* generic_cell, const cdm::LibertyLib* library) {
+}  // namespace
+
+namespace common {
+
+float GenericGateArea(const LibCell* generic_cell, const cdm::LibertyLib* library) {
   Gate generic;
-  if (!library || !AsGate(generic_cell, generic)) return 0.0f;
+  if (!library || generic_cell->GetConstOutputValue() >= 0 || !AsGate(generic_cell, generic))
+    return 0.0f;
   float best = std::numeric_limits<float>::max();
   for (const LibCell* cell : library->GetLibCells()) {
     // A clock gate computes an AND, but no mapper would use it for one.
@@ -91,16 +103,12 @@ float SmallestEquivalentArea(const LibCell* generic_cell, const cdm::LibertyLib*
   return best == std::numeric_limits<float>::max() ? 0.0f : best;
 }
 
-}  // namespace
-
-namespace common {
-
+// The estimates are made on demand by the gates themselves; this brings
+// them all up to date before the area report, which reads each of them.
 void EnsureGtechReportReady(cdm::Design*) {
   cdm::LibertyLib* generic = cdm::DbManager::GetGenericLib();
   if (!generic) return;
-  const cdm::LibertyLib* library = cdm::DbManager::GetDefaultLiberty();
-  for (LibCell* cell : generic->GetLibCells())
-    cell->SetEstimatedArea(SmallestEquivalentArea(cell, library));
+  for (const LibCell* cell : generic->GetLibCells()) cell->GetArea();
 }
 
 }  // namespace common

@@ -3,12 +3,24 @@
 #include <algorithm>
 #include <cctype>
 
+#include "db/GtechArea.h"
 #include "hostapi/cdm/LibertyLib.h"
+#include "hostapi/cdm/Root.h"
 
 namespace cdm {
 
 LibCell::LibCell(const std::string* name, LibertyLib* lib) : Reference(name), lib_(lib) {}
 LibCell::~LibCell() = default;
+
+float LibCell::GetArea() const {
+  Root* root = lib_ ? lib_->GetGenericRoot() : nullptr;
+  if (!root) return area_;
+  if (estimated_at_ != root->ChangeGeneration()) {
+    estimated_area_ = common::GenericGateArea(this, root->GetDefaultLiberty());
+    estimated_at_ = root->ChangeGeneration();
+  }
+  return estimated_area_;
+}
 
 namespace {
 

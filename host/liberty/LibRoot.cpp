@@ -37,6 +37,7 @@ LibertyLib* Root::GetGenericLib() {
   if (!generic_lib_) {
     std::unique_ptr<LibertyLib> lib = liberty::MakeGenericLib(this);
     generic_lib_ = lib.get();
+    generic_lib_->SetGenericRoot(this);
     Own(std::move(lib));
   }
   return generic_lib_;

@@ -2,6 +2,7 @@
 // is a leaf.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -30,9 +31,11 @@ class LibCell : public Reference {
   // The owning library (the generic library for a generic gate).
   LibertyLib* GetLibertyLib() const { return lib_; }
 
-  virtual float GetArea() const { return area_; }  // of one instance
-  // Generic gates carry an estimate taken from a technology library.
-  void SetEstimatedArea(float area) { area_ = area; }
+  // Of one instance. A gate of the generic library has no area of its own:
+  // it reads the estimate that the default library gives at this moment
+  // (GenericGateArea), the same for every caller until the libraries or
+  // the design change.
+  virtual float GetArea() const;
   bool DontTouch() const { return dont_touch_; }
   bool DontUse() const { return dont_use_; }
   const std::string& GetFootprint() const { return footprint_; }
@@ -103,6 +106,8 @@ class LibCell : public Reference {
   friend class LibEditor;  // the reader fills the fields
   LibertyLib* lib_;
   float area_ = 0.0f;
+  mutable float estimated_area_ = 0.0f;  // generic gates: the estimate
+  mutable uint64_t estimated_at_ = 0;    // and the root generation it was made at
   bool dont_touch_ = false;
   bool dont_use_ = false;
   bool is_memory_ = false;

@@ -19,10 +19,17 @@
 
 namespace cdm {
 
+class Root;
+
 class LibertyLib : public Lib {
  public:
   explicit LibertyLib(const std::string* name);
   ~LibertyLib() override;
+
+  // The built-in generic library of `root`, whose gates take their areas
+  // from the root's default library; null for a technology library.
+  Root* GetGenericRoot() const { return generic_root_; }
+  void SetGenericRoot(Root* root) { generic_root_ = root; }
 
   // Identity.
   const std::string& GetDate() const { return date_; }
@@ -94,6 +101,7 @@ class LibertyLib : public Lib {
 
  private:
   friend class LibEditor;  // the reader fills the fields
+  Root* generic_root_ = nullptr;
   std::string date_;
   std::string revision_;
   std::string comment_;
