@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "cmd/TclCmd.h"
+#include "design/DesignArea.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
@@ -81,17 +82,12 @@ void AddUnknown(AreaTotals& totals, const cdm::Cell* cell) {
   AddType(totals.unknown_types, owner, ref->GetRefText(), ref);
 }
 
-// Leaf area below a design, for a design that stands for a black box.
-float DesignLeafArea(const cdm::Design* design) {
+// Area of one instance of a type-table entry: a library cell's own, or the
+// leaf area below a design that stands for a black box (the figure its
+// instances add to the macro area).
+float TypeEntryArea(cdm::Reference* ref) {
   float area = 0.0f;
-  std::unique_ptr<cdm::Iterator<cdm::Cell>> cells(design->CellIter());
-  while (cells->HasNext()) {
-    cdm::Cell* cell = cells->Next();
-    if (cdm::LibCell* lib_cell = cell->GetRefLibCell())
-      area += lib_cell->GetArea();
-    else if (cdm::Design* child = cell->GetRefDesign())
-      area += DesignLeafArea(child);
-  }
+  ComputeDesignArea(ref, area);
   return area;
 }
 
@@ -164,7 +160,7 @@ class AreaWalk {
     }
     AddType(totals_.macro_types, child->Owner()->Name(), child->GetRefText(), child);
     ++totals_.macros;
-    totals_.macro_area += DesignLeafArea(child);
+    totals_.macro_area += TypeEntryArea(child);
   }
 
   void ClassifyLeaf(cdm::LibCell* lib_cell, HierarchyCellInfo& record) {
@@ -283,7 +279,7 @@ void PrintTypeTable(const std::string& title, const TypeTable& types) {
       bool first_of_type = true;
       for (const auto& cell : cells) {
         auto* lib_cell = dynamic_cast<const cdm::LibCell*>(cell.first);
-        float area = lib_cell ? lib_cell->GetArea() : 0.0f;
+        float area = TypeEntryArea(cell.first);
         float total = area * static_cast<float>(cell.second);
         table.InsertValue("Lib Name", first_of_lib ? lib.first : std::string(), "");
         table.InsertValue("Type Name", first_of_type ? type.first : std::string(), "");
