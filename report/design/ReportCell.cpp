@@ -230,7 +230,7 @@ int ReportCellCmd::exec() {
     std::vector<std::string> row = {
         cell->GetFullName(), ref ? ref->GetRefText() : cell->GetRefName(),
         hierarchical ? "    " : (lib_cell ? lib_cell->GetLibertyLib()->Name() : ""),
-        ReportTable::Float2Str(ComputeInstanceArea(cell), 6),
+        AreaText(ComputeInstanceArea(cell)),
         hierarchical ? "h " : (lib_cell && lib_cell->IsSequentialCell() ? "n " : "")};
     for (size_t i = 0; i < row.size(); ++i) Widen(widths[i], row[i]);
     rows.push_back(std::move(row));

@@ -128,16 +128,16 @@ void PrintReferenceTable(ReportTable& table, const RefCounts& counts,
     float row_area = static_cast<float>(entry.second) * unit_area;
     table.InsertValue("Reference", ref->GetRefText(), "");
     table.InsertValue("Library", ReferenceLibrary(ref), "");
-    table.InsertValue("Unit Area", ReportTable::Float2Str(unit_area, 6), "");
+    table.InsertValue("Unit Area", AreaText(unit_area), "");
     table.InsertValue("Count", entry.second);
-    table.InsertValue("Total Area", ReportTable::Float2Str(row_area, 6), "");
+    table.InsertValue("Total Area", AreaText(row_area), "");
     table.InsertValue("Attributes", attributes(ref), "");
     ++rows;
     total = row_area + total;
   }
   table.InsertSeparator('-');
   table.InsertValue("Reference", "Total " + std::to_string(rows) + " references", "");
-  table.InsertValue("Total Area", ReportTable::Float2Str(total, 6), "");
+  table.InsertValue("Total Area", AreaText(total), "");
   table.PrintTable(0, true);
 }
 
