@@ -2,45 +2,70 @@
 
 #include "db/Netlist.h"
 #include "hostapi/cdm/Design.h"
+#include "hostapi/cdm/LibCell.h"
 #include "hostapi/cdm/Pin.h"
 
 namespace cdm {
 
-Cell::Cell(const std::string* name, const std::string* ref_name, Netlist* netlist)
-    : Object(name), ref_name_(ref_name ? ref_name : &EmptyName()), netlist_(netlist) {}
-
-Cell::~Cell() = default;
-
-std::string Cell::GetFullName() const {
-  Cell* parent = netlist_ ? netlist_->GetInstance() : nullptr;
-  if (!parent) return Name();
-  return parent->GetFullName() + "/" + Name();
+uint32_t Cell::Index() const {
+  return netlist_->IndexOf(this);
 }
 
-void Cell::Bind(Reference* ref, Design* design, LibCell* lib_cell, uint32_t pin_count) {
-  ref_ = ref;
-  design_ = design;
-  lib_cell_ = lib_cell;
-  child_ = nullptr;
-  pin_count_ = pin_count;
-  pins_ = pin_count ? std::make_unique<Pin[]>(pin_count) : nullptr;
+const std::string& Cell::MaterializeName() const {
+  const std::string& name = netlist_->CellNameString(Index());
+  SetName(&name);
+  return name;
+}
+
+std::string Cell::GetFullName() const {
+  std::string_view local = netlist_->CellName(Index());
+  Cell* parent = netlist_->GetInstance();
+  if (!parent) return std::string(local);
+  std::string full = parent->GetFullName();
+  full += '/';
+  full += local;
+  return full;
+}
+
+Design* Cell::GetRefDesign() const {
+  return Kind() == kDesign ? static_cast<Design*>(ref_) : nullptr;
+}
+
+LibCell* Cell::GetRefLibCell() const {
+  return Kind() == kLib ? static_cast<LibCell*>(ref_) : nullptr;
+}
+
+const std::string& Cell::GetRefName() const {
+  return ref_ ? ref_->Name() : EmptyName();
 }
 
 Iterator<Pin>* Cell::PinIter() const {
   std::vector<Pin*> pins;
-  pins.reserve(pin_count_);
-  for (uint32_t i = 0; i < pin_count_; ++i) pins.push_back(&pins_[i]);
+  uint32_t count = PinCount();
+  pins.reserve(count);
+  for (uint32_t i = 0; i < count; ++i) pins.push_back(netlist_->PinAt(first_pin_ + i));
   return new VectorIterator<Pin>(std::move(pins));
 }
 
 Pin* Cell::FindPin(const std::string& name) const {
-  for (uint32_t i = 0; i < pin_count_; ++i)
-    if (pins_[i].Name() == name) return &pins_[i];
+  uint32_t count = PinCount();
+  for (uint32_t i = 0; i < count; ++i) {
+    Pin* pin = netlist_->PinAt(first_pin_ + i);
+    if (pin->Name() == name) return pin;
+  }
   return nullptr;
 }
 
+uint32_t Cell::PinCount() const {
+  return netlist_->CellPinCount(Index());
+}
+
 Pin* Cell::GetPin(uint32_t index) const {
-  return index < pin_count_ ? &pins_[index] : nullptr;
+  return index < PinCount() ? netlist_->PinAt(first_pin_ + index) : nullptr;
+}
+
+Netlist* Cell::GetChildNetlist() const {
+  return Kind() == kDesign ? netlist_->ChildOf(this) : nullptr;
 }
 
 }  // namespace cdm

@@ -27,11 +27,13 @@ LibPort* LibPortOf(const Pin* pin) {
 }  // namespace
 
 bool Cell::IsConstCell() const {
-  return lib_cell_ && lib_cell_->GetConstOutputValue() >= 0;
+  LibCell* lib_cell = GetRefLibCell();
+  return lib_cell && lib_cell->GetConstOutputValue() >= 0;
 }
 
 bool Cell::IsGTechCell() const {
-  return lib_cell_ && lib_cell_->GetLibertyLib() == DbManager::GetGenericLib();
+  LibCell* lib_cell = GetRefLibCell();
+  return lib_cell && lib_cell->GetLibertyLib() == DbManager::GetGenericLib();
 }
 
 float Pin::Capacitance(const RiseFall* edge, const MinMax* minmax) const {
@@ -43,10 +45,11 @@ float Pin::Capacitance(const RiseFall* edge, const MinMax* minmax) const {
 Pin* Pin::GetInputOutputPin(bool through_sequential) const {
   LibPort* port = LibPortOf(this);
   if (!port || port->direction != kDirInput) return nullptr;
-  LibCell* lib_cell = cell_->GetRefLibCell();
+  Cell* cell = GetCell();
+  LibCell* lib_cell = cell->GetRefLibCell();
   if (lib_cell->IsSequentialCell() && !through_sequential) return nullptr;
   for (LibPort* out : lib_cell->GetCellToPorts(port))
-    if (Pin* pin = cell_->FindPin(out->Name())) return pin;
+    if (Pin* pin = cell->FindPin(out->Name())) return pin;
   return nullptr;
 }
 
@@ -54,10 +57,11 @@ std::vector<Pin*> Pin::GetOutputInputPins(bool through_sequential) const {
   std::vector<Pin*> inputs;
   LibPort* port = LibPortOf(this);
   if (!port || !port->IsOutput()) return inputs;
-  LibCell* lib_cell = cell_->GetRefLibCell();
+  Cell* cell = GetCell();
+  LibCell* lib_cell = cell->GetRefLibCell();
   if (lib_cell->IsSequentialCell() && !through_sequential) return inputs;
-  for (uint32_t i = 0; i < cell_->PinCount(); ++i) {
-    Pin* pin = cell_->GetPin(i);
+  for (uint32_t i = 0; i < cell->PinCount(); ++i) {
+    Pin* pin = cell->GetPin(i);
     LibPort* input = dynamic_cast<LibPort*>(pin->GetPort());
     if (!input || input->direction != kDirInput) continue;
     std::vector<LibPort*> outs = lib_cell->GetCellToPorts(input);
@@ -73,31 +77,12 @@ void Net::NetCapAndRes(const OperatingConditions*, float& wire_cap, float& resis
   LibertyLib* lib = DbManager::GetDefaultLiberty();
   const WireLoad* wire_load = lib ? lib->GetDefaultWireLoad() : nullptr;
   if (!wire_load) return;
-  int fanout = 0;
-  WalkFlatNet(this, false, [&](Pin* pin) {
-    if (pin->IsNetLoad() && !pin->IsNetDriver()) ++fanout;
-  });
+  int fanout = FlatLoadCount(this);
   if (fanout == 0) return;
   float length = wire_load->LengthFor(fanout);
   const LibUnits& units = lib->GetUnits();
   wire_cap = length * wire_load->capacitance * units.capacitance.scale;
   resistance = length * wire_load->resistance * units.resistance.scale;
-}
-
-namespace {
-
-bool HasGtechCell(const Netlist* netlist) {
-  for (const Cell& cell : netlist->Cells()) {
-    if (cell.IsGTechCell()) return true;
-    if (cell.GetChildNetlist() && HasGtechCell(cell.GetChildNetlist())) return true;
-  }
-  return false;
-}
-
-}  // namespace
-
-bool DbManager::HasUnmappedGtechCell(const Design* design) {
-  return design && HasGtechCell(design->GetNetlist());
 }
 
 }  // namespace cdm

@@ -23,12 +23,12 @@ class DesignPortIterator : public PortMemberPortIterator {
 // Walks the cells of a netlist without copying them.
 class NetlistCellIterator : public Iterator<Cell> {
  public:
-  explicit NetlistCellIterator(std::deque<Cell>& cells) : cells_(cells) {}
+  explicit NetlistCellIterator(Span<Cell> cells) : cells_(cells) {}
   bool HasNext() override { return next_ < cells_.size(); }
   Cell* Next() override { return next_ < cells_.size() ? &cells_[next_++] : nullptr; }
 
  private:
-  std::deque<Cell>& cells_;
+  Span<Cell> cells_;
   size_t next_ = 0;
 };
 
@@ -45,7 +45,7 @@ std::vector<T*> Pointers(const std::vector<std::unique_ptr<T>>& owned) {
 Design::Design(const std::string* name, std::shared_ptr<Object> owner)
     : Reference(name),
       owner_(owner ? std::move(owner) : std::make_shared<Object>(nullptr)),
-      netlist_(std::make_unique<Netlist>(this, nullptr)) {}
+      netlist_(std::make_unique<Netlist>(this)) {}
 
 Design::~Design() = default;
 
@@ -65,10 +65,16 @@ Iterator<DesignNetBus>* Design::NetBusIter() const {
   return new VectorIterator<DesignNetBus>(Pointers(net_buses_));
 }
 
+void Design::IndexPorts() const {
+  port_index_ = std::make_unique<std::unordered_map<std::string_view, uint32_t>>();
+  port_index_->reserve(ports_.size());
+  for (uint32_t i = 0; i < ports_.size(); ++i) port_index_->emplace(ports_[i]->Name(), i);
+}
+
 Port* Design::FindPort(const std::string& name) const {
-  for (Port* port : ports_)
-    if (port->Name() == name) return port;
-  return nullptr;
+  if (!port_index_ || port_index_->size() != ports_.size()) IndexPorts();
+  auto found = port_index_->find(name);
+  return found == port_index_->end() ? nullptr : ports_[found->second];
 }
 
 Pin* Design::FindPin(const std::string& name) const {
@@ -89,7 +95,7 @@ size_t Design::NetCount() const {
 }
 
 size_t Design::CellCount() const {
-  return netlist_->Cells().size();
+  return netlist_->CellCount();
 }
 
 Port* Design::AddPort(std::unique_ptr<Port> port) {

@@ -8,38 +8,87 @@
 #include "hostapi/cdm/Pin.h"
 
 namespace cdm {
-namespace {
-
-void GatherCells(Netlist* netlist, bool deep, const std::function<bool(const Cell*)>& predicate,
-                 std::vector<Cell*>& cells) {
-  for (Cell& cell : netlist->Cells()) {
-    if (!predicate || predicate(&cell)) cells.push_back(&cell);
-    if (deep && cell.GetChildNetlist()) GatherCells(cell.GetChildNetlist(), deep, predicate, cells);
-  }
-}
-
-void GatherPins(Netlist* netlist, bool deep, const std::function<bool(const Pin*)>& predicate,
-                std::vector<Pin*>& pins) {
-  auto take = [&](Pin* pin) {
-    if (!predicate || predicate(pin)) pins.push_back(pin);
-  };
-  for (uint32_t i = 0; i < netlist->PortPinCount(); ++i) take(netlist->PortPin(i));
-  for (Cell& cell : netlist->Cells()) {
-    for (uint32_t i = 0; i < cell.PinCount(); ++i) take(cell.GetPin(i));
-    if (deep && cell.GetChildNetlist()) GatherPins(cell.GetChildNetlist(), deep, predicate, pins);
-  }
-}
-
-}  // namespace
 
 DesignCellIterator::DesignCellIterator(const Design* design, bool deep,
-                                       const std::function<bool(const Cell*)>& predicate) {
-  if (design) GatherCells(design->GetNetlist(), deep, predicate, cells_);
+                                       const std::function<bool(const Cell*)>& predicate)
+    : predicate_(predicate), deep_(deep) {
+  if (design) stack_.push_back(Frame{design->GetNetlist(), 0});
+  Advance();
+}
+
+Cell* DesignCellIterator::Next() {
+  Cell* cell = ahead_;
+  if (cell) Advance();
+  return cell;
+}
+
+void DesignCellIterator::Advance() {
+  ahead_ = nullptr;
+  while (!stack_.empty()) {
+    Frame& frame = stack_.back();
+    if (frame.next == frame.netlist->CellCount()) {
+      stack_.pop_back();
+      continue;
+    }
+    Cell* cell = &frame.netlist->Cells()[frame.next++];
+    // Each cell before the cells below it.
+    if (deep_)
+      if (Netlist* child = cell->GetChildNetlist()) stack_.push_back(Frame{child, 0});
+    if (!predicate_ || predicate_(cell)) {
+      ahead_ = cell;
+      return;
+    }
+  }
 }
 
 AllPinIterator::AllPinIterator(const Design* design, bool deep,
-                               const std::function<bool(const Pin*)>& predicate) {
-  if (design) GatherPins(design->GetNetlist(), deep, predicate, pins_);
+                               const std::function<bool(const Pin*)>& predicate)
+    : predicate_(predicate), deep_(deep) {
+  if (design) {
+    Netlist* netlist = design->GetNetlist();
+    stack_.push_back(Frame{netlist, 0, 0, netlist->PortPinCount()});
+  }
+  Advance();
+}
+
+Pin* AllPinIterator::Next() {
+  Pin* pin = ahead_;
+  if (pin) Advance();
+  return pin;
+}
+
+void AllPinIterator::Advance() {
+  ahead_ = nullptr;
+  while (!stack_.empty()) {
+    Frame& frame = stack_.back();
+    if (frame.next_pin < frame.run_end) {
+      Pin* pin = frame.netlist->PinAt(frame.next_pin++);
+      if (!predicate_ || predicate_(pin)) {
+        ahead_ = pin;
+        return;
+      }
+      continue;
+    }
+    // The run ends: after a hierarchical cell's pins come those below it.
+    const uint32_t kDescended = 0x80000000u;
+    uint32_t cells_done = frame.next_cell & ~kDescended;
+    if (deep_ && !(frame.next_cell & kDescended) && cells_done > 0) {
+      Cell* done = &frame.netlist->Cells()[cells_done - 1];
+      if (Netlist* child = done->GetChildNetlist()) {
+        frame.next_cell |= kDescended;  // before the push moves the frame
+        stack_.push_back(Frame{child, 0, 0, child->PortPinCount()});
+        continue;
+      }
+    }
+    frame.next_cell = cells_done;
+    if (frame.next_cell == frame.netlist->CellCount()) {
+      stack_.pop_back();
+      continue;
+    }
+    uint32_t cell = frame.next_cell++;
+    frame.next_pin = frame.netlist->CellFirstPin(cell);
+    frame.run_end = frame.next_pin + frame.netlist->CellPinCount(cell);
+  }
 }
 
 NetConnIter::NetConnIter(const Net* net, bool with_hierarchical,

@@ -5,101 +5,125 @@
 #include <set>
 #include <unordered_map>
 
+#include "db/Elaboration.h"
 #include "db/LibAccess.h"
 #include "db/Netlist.h"
+#include "db/NetlistEditor.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Root.h"
 
 namespace cdm {
 namespace {
 
-uint8_t DirectionFlags(uint8_t direction, bool inside) {
-  // A port drives the net inside the design when it is an input, and the
-  // net outside (through the cell's pin) when it is an output.
-  bool drives = inside ? direction == kDirInput : direction == kDirOutput;
-  if (direction == kDirInout) return Pin::kDriver | Pin::kLoad;
-  // Pins of unresolved cells have no known direction: show them as loads.
-  if (direction == kDirInternal) return Pin::kLoad;
-  return drives ? Pin::kDriver : Pin::kLoad;
-}
-
 // Index from a connection's port name to the pins it covers, most
-// significant first: a scalar port, or the bits "name[i]" of a bus.
+// significant first: a scalar port, or the bits "name[i]" of a bus; a bit
+// is also found by its own name.
 class PinGroups {
  public:
   explicit PinGroups(const std::vector<Port*>& ports) {
     for (uint32_t i = 0; i < ports.size(); ++i) {
       const std::string& name = ports[i]->Name();
       size_t bracket = name.rfind('[');
-      std::string group = name;
-      int bit = 0;
       bool is_bit = bracket != std::string::npos && bracket > 0 && name.back() == ']';
-      if (is_bit) {
-        group = name.substr(0, bracket);
-        bit = std::atoi(name.c_str() + bracket + 1);
-      }
+      std::string_view group = is_bit ? std::string_view(name).substr(0, bracket) : name;
+      int bit = is_bit ? std::atoi(name.c_str() + bracket + 1) : 0;
       auto found = index_.find(group);
       if (found == index_.end()) {
         order_.push_back(group);
         found = index_.emplace(group, Group()).first;
       }
       found->second.members.emplace_back(bit, i);
-      if (!is_bit) index_[name].scalar = true;
+      if (is_bit) bits_.emplace(name, i);
     }
     for (auto& entry : index_) {
       Group& group = entry.second;
       // Library buses list their bits in any order: most significant first.
-      if (!group.scalar && group.members.size() > 1 && !ports[group.members[0].second]->GetDesign())
+      if (group.members.size() > 1 && !ports[group.members[0].second]->GetDesign())
         std::stable_sort(group.members.begin(), group.members.end(),
                          [](const auto& a, const auto& b) { return a.first > b.first; });
     }
   }
 
   // Pins of the named port; empty if the reference has no such port.
-  std::vector<uint32_t> ByName(const std::string& name) const {
-    std::vector<uint32_t> pins;
+  void ByName(const std::string& name, std::vector<uint32_t>& pins) const {
+    pins.clear();
     auto found = index_.find(name);
-    if (found != index_.end())
+    if (found != index_.end()) {
       for (const auto& member : found->second.members) pins.push_back(member.second);
-    return pins;
+      return;
+    }
+    auto bit = bits_.find(name);
+    if (bit != bits_.end()) pins.push_back(bit->second);
   }
-  std::vector<uint32_t> ByPosition(uint32_t position) const {
-    return position < order_.size() ? ByName(order_[position]) : std::vector<uint32_t>();
+  void ByPosition(uint32_t position, std::vector<uint32_t>& pins) const {
+    pins.clear();
+    if (position >= order_.size()) return;
+    for (const auto& member : index_.at(order_[position]).members) pins.push_back(member.second);
   }
 
  private:
   struct Group {
     std::vector<std::pair<int, uint32_t>> members;
-    bool scalar = false;
   };
-  std::unordered_map<std::string, Group> index_;
-  std::vector<std::string> order_;
+  std::unordered_map<std::string_view, Group> index_;
+  std::unordered_map<std::string_view, uint32_t> bits_;
+  std::vector<std::string_view> order_;
+};
+
+enum RefKind { kUnresolvedRef = 0, kLibRef = 1, kDesignRef = 2 };
+
+// What a reference name resolves to, found once per name.
+struct Resolution {
+  Reference* ref = nullptr;
+  int kind = kUnresolvedRef;
+  std::vector<Port*> ports;
+  std::unique_ptr<PinGroups> groups;
 };
 
 class Linker {
  public:
   Linker(Root* root, std::vector<std::string>& warnings) : root_(root), warnings_(warnings) {}
 
-  bool CheckRecursion(Design* design, std::vector<Design*>& path, std::string& error) {
-    if (std::find(path.begin(), path.end(), design) != path.end()) {
-      error = "module '" + design->Name() + "' instantiates itself";
-      for (Design* step : path)
-        error += (step == path.front() ? " (through " : ", ") + step->Name();
-      error += ")";
-      return false;
+  bool CheckRecursion(Design* top, std::string& error) {
+    // Depth first without recursion: a module may nest deeply.
+    std::vector<std::pair<Design*, uint32_t>> path{{top, 0}};
+    std::set<Design*> on_path{top}, done;
+    while (!path.empty()) {
+      Design* design = path.back().first;
+      Netlist* netlist = design->GetNetlist();
+      uint32_t index = path.back().second++;
+      if (index == netlist->CellCount()) {
+        on_path.erase(design);
+        done.insert(design);
+        path.pop_back();
+        continue;
+      }
+      Design* child = root_->FindDesign(netlist->Cells()[index].GetRefName());
+      if (!child || done.count(child)) continue;
+      if (on_path.count(child)) {
+        error = "module '" + child->Name() + "' instantiates itself";
+        bool first = true;
+        for (const auto& step : path) {
+          if (first && step.first != child) continue;
+          error += (first ? " (through " : ", ") + step.first->Name();
+          first = false;
+        }
+        error += ")";
+        return false;
+      }
+      on_path.insert(child);
+      path.emplace_back(child, 0);
     }
-    if (!checked_.insert(design).second) return true;
-    path.push_back(design);
-    for (const Cell& cell : design->GetNetlist()->Cells())
-      if (Design* child = root_->FindDesign(cell.GetRefName()))
-        if (!CheckRecursion(child, path, error)) return false;
-    path.pop_back();
     return true;
   }
 
   void LinkAll(Design* top) {
-    std::vector<Design*> order;
-    Collect(top, order);
+    std::vector<Design*> order{top};
+    std::set<Design*> seen{top};
+    for (size_t i = 0; i < order.size(); ++i)
+      for (const Cell& cell : order[i]->GetNetlist()->Cells())
+        if (Design* child = root_->FindDesign(cell.GetRefName()))
+          if (seen.insert(child).second) order.push_back(child);
     for (Design* design : order) Bind(design);
     for (const auto& entry : unresolved_)
       warnings_.push_back("Warning: Unable to resolve reference '" + entry.first + "' (" +
@@ -108,149 +132,165 @@ class Linker {
   }
 
  private:
-  void Collect(Design* design, std::vector<Design*>& order) {
-    if (std::find(order.begin(), order.end(), design) != order.end()) return;
-    order.push_back(design);
-    for (const Cell& cell : design->GetNetlist()->Cells())
-      if (Design* child = root_->FindDesign(cell.GetRefName())) Collect(child, order);
-  }
-
-  const PinGroups& GroupsOf(const void* key, const std::vector<Port*>& ports) {
-    auto found = groups_.find(key);
-    if (found == groups_.end()) found = groups_.emplace(key, PinGroups(ports)).first;
-    return found->second;
+  const Resolution& Resolve(const std::string& name) {
+    auto found = resolutions_.find(name);
+    if (found != resolutions_.end()) return found->second;
+    Resolution& resolution = resolutions_[name];
+    if (Design* design = root_->FindDesign(name)) {
+      resolution.ref = design;
+      resolution.kind = kDesignRef;
+      resolution.ports = design->Ports();
+    } else if (LibCell* lib_cell = FindLibCellForLink(root_, name, &resolution.ref)) {
+      resolution.kind = kLibRef;
+      LibCellPinPorts(lib_cell, resolution.ports);
+    }
+    if (resolution.kind != kUnresolvedRef)
+      resolution.groups = std::make_unique<PinGroups>(resolution.ports);
+    return resolution;
   }
 
   void Warn(const Netlist* netlist, const Cell& cell, uint32_t line, const std::string& what) {
     warnings_.push_back("Warning: " + netlist->Source().file + ":" + std::to_string(line) +
-                        ": instance '" + cell.Name() + "' of '" + cell.GetRefName() + "' " + what);
+                        ": instance '" + std::string(netlist->CellName(netlist->IndexOf(&cell))) +
+                        "' of '" + cell.GetRefName() + "' " + what);
+  }
+
+  // The stub ports of an unresolved cell, named after its connections.
+  void StubPorts(Netlist* netlist, const ConnSource& conn, std::vector<Port*>& ports) {
+    if (!conn.port) {
+      ports.push_back(NetlistEditor::StubPort(root_, netlist, "$" + std::to_string(conn.position)));
+    } else if (conn.bits.size() <= 1) {
+      ports.push_back(NetlistEditor::StubPort(root_, netlist, *conn.port));
+    } else {
+      for (size_t b = conn.bits.size(); b-- > 0;)
+        ports.push_back(
+            NetlistEditor::StubPort(root_, netlist, *conn.port + "[" + std::to_string(b) + "]"));
+    }
   }
 
   void Bind(Design* design) {
     Netlist* netlist = design->GetNetlist();
-    for (Net& net : netlist->Nets()) net.ClearPins();
-    netlist->MakePortPins();
     const ModuleSource& source = netlist->Source();
-    for (uint32_t i = 0; i < netlist->PortPinCount(); ++i) {
-      Pin* pin = netlist->PortPin(i);
-      pin->SetFlags(Pin::kPortPin | DirectionFlags(pin->GetDirection(), true));
-      int32_t bit = i < source.port_nets.size() ? source.port_nets[i] : kBitOpen;
-      if (bit >= 0) Connect(pin, &netlist->Nets()[bit]);
-    }
-    uint32_t index = 0;
-    for (Cell& cell : netlist->Cells()) BindCell(netlist, cell, source.instances[index++]);
-    netlist->SetLinked(true);
-  }
-
-  void BindCell(Netlist* netlist, Cell& cell, const InstanceSource& inst) {
-    const ModuleSource& source = netlist->Source();
-    std::vector<Port*> ports;
-    Reference* ref = nullptr;
-    Design* design = root_->FindDesign(cell.GetRefName());
-    LibCell* lib_cell = nullptr;
-    const void* key = design;
-    if (design) {
-      ref = design;
-      ports = design->Ports();
-    } else if ((lib_cell = FindLibCellForLink(root_, cell.GetRefName(), &ref))) {
-      LibCellPinPorts(lib_cell, ports);
-      key = lib_cell;
-    } else {
-      ++unresolved_[cell.GetRefName()];
-      ref = netlist->Unresolved(&cell.GetRefName());
-      // Pins named after the connections, so that they can still be shown.
-      for (uint32_t c = 0; c < inst.conn_count; ++c) {
-        const ConnSource& conn = source.conns[inst.first_conn + c];
-        std::string name = conn.port ? *conn.port : "$" + std::to_string(conn.position);
-        if (conn.bit_count <= 1 || !conn.port) {
-          ports.push_back(netlist->StubPort(root_->Intern(name)));
+    const uint32_t cells = netlist->CellCount();
+    // First pass: what each cell is and how many pins it has.
+    std::vector<const Resolution*> resolved(cells);
+    std::vector<std::vector<Port*>> stubs;  // ports of unresolved cells, in cell order
+    uint32_t pins = static_cast<uint32_t>(design->Ports().size());
+    {
+      ModuleSource::Cursor cursor(source);
+      uint32_t line = 0, conns = 0;
+      ConnSource conn;
+      for (uint32_t i = 0; i < cells && cursor.NextInstance(line, conns); ++i) {
+        Cell& cell = netlist->Cells()[i];
+        resolved[i] = &Resolve(cell.GetRefName());
+        std::vector<Port*> ports;
+        for (uint32_t c = 0; c < conns; ++c) {
+          cursor.NextConnection(conn, c);
+          if (resolved[i]->kind == kUnresolvedRef) StubPorts(netlist, conn, ports);
+        }
+        if (resolved[i]->kind == kUnresolvedRef) {
+          ++unresolved_[cell.GetRefName()];
+          pins += static_cast<uint32_t>(ports.size());
+          stubs.push_back(std::move(ports));
         } else {
-          for (uint32_t b = conn.bit_count; b-- > 0;)
-            ports.push_back(netlist->StubPort(root_->Intern(name + "[" + std::to_string(b) + "]")));
+          pins += static_cast<uint32_t>(resolved[i]->ports.size());
         }
       }
-      key = nullptr;
     }
-    cell.Bind(ref, design, lib_cell, static_cast<uint32_t>(ports.size()));
-    for (uint32_t i = 0; i < ports.size(); ++i) {
-      uint8_t flags = DirectionFlags(ports[i]->direction, false);
-      if (design) flags |= Pin::kHierarchical;
-      cell.GetPin(i)->Init(ports[i], &cell, netlist, flags);
-    }
-    PinGroups local(key ? std::vector<Port*>() : ports);
-    const PinGroups& groups = key ? GroupsOf(key, ports) : local;
-    for (uint32_t c = 0; c < inst.conn_count; ++c) {
-      const ConnSource& conn = source.conns[inst.first_conn + c];
-      std::vector<uint32_t> pins =
-          conn.port ? groups.ByName(*conn.port) : groups.ByPosition(conn.position);
-      if (!key && !conn.port) pins = {c};
-      if (pins.empty()) {
-        if (conn.port)
-          Warn(netlist, cell, inst.line, "has no pin '" + *conn.port + "'; connection ignored.");
-        else
-          Warn(netlist, cell, inst.line,
-               "has no pin at position " + std::to_string(conn.position + 1) +
-                   "; connection ignored.");
-        continue;
-      }
-      if (conn.bit_count == 0) continue;
-      if (conn.bit_count != pins.size())
-        Warn(netlist, cell, inst.line,
-             "connects " + std::to_string(conn.bit_count) + " bits to the " +
-                 std::to_string(pins.size()) + "-bit pin '" + cell.GetPin(pins[0])->Name() +
-                 "'; they meet at the least significant bit.");
-      // Both lists are most significant first: pair them from the end.
-      size_t pairs = std::min<size_t>(conn.bit_count, pins.size());
-      for (size_t k = 0; k < pairs; ++k) {
-        int32_t bit = source.bits[conn.first_bit + conn.bit_count - 1 - k];
-        Pin* pin = cell.GetPin(pins[pins.size() - 1 - k]);
-        if (bit >= 0)
-          Connect(pin, &netlist->Nets()[bit]);
-        else if (bit != kBitOpen)
-          Connect(pin, netlist->ConstNet(bit == kBitConst1 ? 1 : 0));
+    NetlistEditor::MakePins(netlist, pins);
+    // Every cell's place in the pin array first: a cell's pin count is
+    // where the next cell's pins start.
+    {
+      uint32_t first = netlist->PortPinCount(), stub = 0;
+      for (uint32_t i = 0; i < cells; ++i) {
+        const Resolution& resolution = *resolved[i];
+        Cell& cell = netlist->Cells()[i];
+        bool unresolved = resolution.kind == kUnresolvedRef;
+        Reference* ref = unresolved
+                             ? NetlistEditor::Unresolved(netlist, root_->Intern(cell.GetRefName()))
+                             : resolution.ref;
+        NetlistEditor::BindCell(netlist, i, ref, resolution.kind, first);
+        first += static_cast<uint32_t>(unresolved ? stubs[stub++].size() : resolution.ports.size());
       }
     }
-  }
-
-  static void Connect(Pin* pin, Net* net) {
-    if (pin->GetNet()) return;
-    pin->SetNet(net);
-    net->AddPin(pin);
+    for (uint32_t i = 0; i < netlist->PortPinCount(); ++i) {
+      Pin* pin = netlist->PinAt(i);
+      Port* port = design->Ports()[i];
+      NetlistEditor::InitPin(pin, port, nullptr, netlist,
+                             Pin::kPortPin | NetlistEditor::DirectionFlags(port->direction, true));
+      int32_t bit = i < source.port_nets.size() ? source.port_nets[i] : kBitOpen;
+      if (bit >= 0) NetlistEditor::Connect(pin, static_cast<uint32_t>(bit));
+    }
+    // Second pass: pins and connections.
+    ModuleSource::Cursor cursor(source);
+    uint32_t line = 0, conns = 0, next_pin = netlist->PortPinCount(), next_stub = 0;
+    ConnSource conn;
+    std::vector<uint32_t> targets;
+    for (uint32_t i = 0; i < cells && cursor.NextInstance(line, conns); ++i) {
+      Cell& cell = netlist->Cells()[i];
+      const Resolution& resolution = *resolved[i];
+      const bool unresolved = resolution.kind == kUnresolvedRef;
+      const std::vector<Port*>& ports = unresolved ? stubs[next_stub++] : resolution.ports;
+      for (Port* port : ports) {
+        uint8_t flags = NetlistEditor::DirectionFlags(port->direction, false);
+        if (resolution.kind == kDesignRef) flags |= Pin::kHierarchical;
+        NetlistEditor::InitPin(netlist->PinAt(next_pin++), port, &cell, netlist, flags);
+      }
+      uint32_t stub_at = 0;
+      for (uint32_t c = 0; c < conns; ++c) {
+        cursor.NextConnection(conn, c);
+        if (unresolved) {
+          // The stubs follow the connections one to one.
+          uint32_t width =
+              conn.port && conn.bits.size() > 1 ? static_cast<uint32_t>(conn.bits.size()) : 1;
+          targets.clear();
+          for (uint32_t k = 0; k < width; ++k) targets.push_back(stub_at + k);
+          stub_at += width;
+        } else if (conn.port) {
+          resolution.groups->ByName(*conn.port, targets);
+        } else {
+          resolution.groups->ByPosition(c, targets);
+        }
+        if (targets.empty()) {
+          if (conn.port)
+            Warn(netlist, cell, line, "has no pin '" + *conn.port + "'; connection ignored.");
+          else
+            Warn(netlist, cell, line,
+                 "has no pin at position " + std::to_string(conn.position + 1) +
+                     "; connection ignored.");
+          continue;
+        }
+        if (conn.bits.empty()) continue;
+        if (conn.bits.size() != targets.size())
+          Warn(netlist, cell, line,
+               "connects " + std::to_string(conn.bits.size()) + " bits to the " +
+                   std::to_string(targets.size()) + "-bit pin '" + cell.GetPin(targets[0])->Name() +
+                   "'; they meet at the least significant bit.");
+        // Both lists are most significant first: pair them from the end.
+        size_t pairs = std::min(conn.bits.size(), targets.size());
+        for (size_t k = 0; k < pairs; ++k) {
+          int32_t bit = conn.bits[conn.bits.size() - 1 - k];
+          Pin* pin = cell.GetPin(targets[targets.size() - 1 - k]);
+          if (bit >= 0)
+            NetlistEditor::Connect(pin, static_cast<uint32_t>(bit));
+          else if (bit != kBitOpen)
+            NetlistEditor::Connect(pin, netlist->IndexOf(netlist->ConstNet(bit == kBitConst1)));
+        }
+      }
+    }
+    NetlistEditor::FinishLink(netlist);
   }
 
   Root* root_;
   std::vector<std::string>& warnings_;
-  std::set<Design*> checked_;
   std::map<std::string, int> unresolved_;
-  std::unordered_map<const void*, PinGroups> groups_;
+  std::unordered_map<std::string, Resolution> resolutions_;
 };
-
-void ElaborateNetlist(Netlist* top, Netlist* netlist, std::set<const Netlist*>& used,
-                      uint32_t& vertex) {
-  for (uint32_t i = 0; i < netlist->PortPinCount(); ++i) netlist->PortPin(i)->SetVertexId(vertex++);
-  for (Cell& cell : netlist->Cells()) {
-    for (uint32_t i = 0; i < cell.PinCount(); ++i) cell.GetPin(i)->SetVertexId(vertex++);
-    Design* design = cell.GetRefDesign();
-    if (!design) continue;
-    Netlist* child = design->GetNetlist();
-    if (used.insert(child).second) {
-      child->SetInstance(&cell);
-    } else {
-      child = top->AddClone(child->CloneFor(&cell));
-    }
-    for (uint32_t i = 0; i < child->PortPinCount(); ++i) {
-      Pin* pin = child->PortPin(i);
-      pin->SetFlags(Pin::kPortPin | Pin::kHierarchical | DirectionFlags(pin->GetDirection(), true));
-    }
-    cell.SetChildNetlist(child);
-    ElaborateNetlist(top, child, used, vertex);
-  }
-}
 
 }  // namespace
 
 Design* FindTopDesign(Root* root, std::string& error) {
-  std::set<std::string> instantiated;
+  std::set<std::string_view> instantiated;
   for (Design* design : root->Designs())
     for (const Cell& cell : design->GetNetlist()->Cells()) instantiated.insert(cell.GetRefName());
   std::vector<Design*> tops;
@@ -273,34 +313,21 @@ Design* FindTopDesign(Root* root, std::string& error) {
 
 bool LinkDesign(Root* root, Design* top, std::vector<std::string>& warnings, std::string& error) {
   Linker linker(root, warnings);
-  std::vector<Design*> path;
-  if (!linker.CheckRecursion(top, path, error)) return false;
-  // Lower netlists of the old hierarchy point into cells about to be rebound.
-  for (Design* design : root->Designs()) {
-    design->GetNetlist()->ClearClones();
-    design->GetNetlist()->SetInstance(nullptr);
-  }
+  if (!linker.CheckRecursion(top, error)) return false;
+  // Copies of the old elaboration point into definitions about to be rebound.
+  root->SetElaboration(nullptr);
   linker.LinkAll(top);
   ElaborateHierarchy(root, top);
-  root->SetCurrentDesign(top);
   return true;
 }
 
 void ElaborateHierarchy(Root* root, Design* top) {
-  for (Design* design : root->Designs()) {
-    Netlist* netlist = design->GetNetlist();
-    netlist->ClearClones();
-    netlist->SetInstance(nullptr);
-    for (Cell& cell : netlist->Cells()) cell.SetChildNetlist(nullptr);
-  }
-  Netlist* netlist = top->GetNetlist();
-  for (uint32_t i = 0; i < netlist->PortPinCount(); ++i) {
-    Pin* pin = netlist->PortPin(i);
-    pin->SetFlags(Pin::kPortPin | Pin::kTopPort | DirectionFlags(pin->GetDirection(), true));
-  }
-  std::set<const Netlist*> used{netlist};
-  uint32_t vertex = 1;
-  ElaborateNetlist(netlist, netlist, used, vertex);
+  root->SetElaboration(nullptr);
+  auto elaboration = std::make_unique<Elaboration>(top);
+  elaboration->Build();
+  root->SetElaboration(std::move(elaboration));
+  root->SetCurrentDesign(top);
+  root->GetElaboration()->SetGeneration(root->ChangeGeneration());
 }
 
 bool IsLinked(const Design* design) {

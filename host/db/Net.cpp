@@ -1,16 +1,46 @@
 #include "hostapi/cdm/Net.h"
 
+#include "db/Elaboration.h"
 #include "db/FlatNet.h"
 #include "db/Netlist.h"
 #include "hostapi/cdm/Pin.h"
 
 namespace cdm {
 
+Pin* NetPinRange::iterator::operator*() const {
+  return base_ + *at_;
+}
+
+Pin* NetPinRange::operator[](size_t i) const {
+  return base_ + first_[i];
+}
+
+uint32_t Net::Index() const {
+  return netlist_->IndexOf(this);
+}
+
+const std::string& Net::MaterializeName() const {
+  const std::string& name = netlist_->NetNameString(Index());
+  SetName(&name);
+  return name;
+}
+
 std::string Net::GetFullName() const {
-  return netlist_ ? netlist_->PathPrefix() + Name() : Name();
+  std::string full = netlist_->PathPrefix();
+  full += netlist_->NetName(Index());
+  return full;
+}
+
+NetPinRange Net::Pins() const {
+  return netlist_->NetPins(Index());
 }
 
 Pin* Net::GetDriverPin() const {
+  Elaboration* elaboration = flat_id_ ? netlist_->GetElaboration() : nullptr;
+  if (elaboration) {
+    if (!elaboration->FlatNet(flat_id_).driver_count) return nullptr;
+    return elaboration->VertexPin(elaboration->FlatNetDrivers(flat_id_)[0]);
+  }
   Pin* driver = nullptr;
   WalkFlatNet(this, false, [&](Pin* pin) {
     if (!driver && pin->IsNetDriver()) driver = pin;
@@ -19,52 +49,26 @@ Pin* Net::GetDriverPin() const {
 }
 
 int Net::GetConstValue() const {
+  Elaboration* elaboration = flat_id_ ? netlist_->GetElaboration() : nullptr;
+  if (elaboration) return elaboration->FlatNet(flat_id_).const_value;
   int value = -1;
   WalkFlatSegments(this, [&](const Net* segment) {
-    if (value < 0 && segment->const_value_ >= 0) value = segment->const_value_;
+    if (value < 0 && segment->LocalConstValue() >= 0) value = segment->LocalConstValue();
   });
   return value;
 }
 
-namespace {
-
-template <class PinPtr>
-void CollectPins(const Net* net, HierarchyMode mode, bool drivers, const Pin* skip,
-                 std::vector<PinPtr>& pins) {
-  auto take = [&](Pin* pin) {
-    if (pin == skip) return;
-    if (drivers ? pin->IsNetDriver() : pin->IsNetLoad()) pins.push_back(pin);
-  };
-  if (mode == kHierLevel) {
-    for (Pin* pin : net->Pins()) take(pin);
-  } else {
-    WalkFlatNet(net, false, take);
-  }
-}
-
-}  // namespace
-
 void Net::GetFaninPins(std::vector<const Pin*>& pins, HierarchyMode mode) const {
-  CollectPins(this, mode, true, nullptr, pins);
+  CollectNetPins(this, mode, true, nullptr, pins);
 }
 void Net::GetFanoutPins(std::vector<const Pin*>& pins, HierarchyMode mode) const {
-  CollectPins(this, mode, false, nullptr, pins);
+  CollectNetPins(this, mode, false, nullptr, pins);
 }
 void Net::GetFaninPins(std::vector<Pin*>& pins, HierarchyMode mode) const {
-  CollectPins(this, mode, true, nullptr, pins);
+  CollectNetPins(this, mode, true, nullptr, pins);
 }
 void Net::GetFanoutPins(std::vector<Pin*>& pins, HierarchyMode mode) const {
-  CollectPins(this, mode, false, nullptr, pins);
-}
-
-// Pins ask the same of their net, leaving themselves out.
-void CollectNetPins(const Net* net, HierarchyMode mode, bool drivers, const Pin* skip,
-                    std::vector<const Pin*>& pins) {
-  CollectPins(net, mode, drivers, skip, pins);
-}
-void CollectNetPins(const Net* net, HierarchyMode mode, bool drivers, const Pin* skip,
-                    std::vector<Pin*>& pins) {
-  CollectPins(net, mode, drivers, skip, pins);
+  CollectNetPins(this, mode, false, nullptr, pins);
 }
 
 }  // namespace cdm

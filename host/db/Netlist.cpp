@@ -1,13 +1,50 @@
 #include "db/Netlist.h"
 
-#include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Port.h"
-#include "hostapi/cdm/Root.h"
 
 namespace cdm {
 
-Netlist::Netlist(Design* design, Cell* instance) : design_(design), instance_(instance) {}
+Netlist::Netlist(Design* design) : design_(design), definition_(this) {}
+
+Netlist::Netlist(const Netlist& definition, Cell* instance)
+    : design_(definition.design_), instance_(instance), definition_(&definition) {
+  cell_count_ = definition.cell_count_;
+  cells_ = std::make_unique<Cell[]>(cell_count_);
+  for (uint32_t i = 0; i < cell_count_; ++i) {
+    const Cell& from = definition.cells_[i];
+    Cell& to = cells_[i];
+    to.netlist_ = this;
+    to.ref_ = from.ref_;
+    to.name_kind_ = from.name_kind_;
+    to.first_pin_ = from.first_pin_;
+  }
+  net_count_ = definition.net_count_;
+  nets_ = std::make_unique<Net[]>(net_count_);
+  for (uint32_t i = 0; i < net_count_; ++i) {
+    const Net& from = definition.nets_[i];
+    Net& to = nets_[i];
+    to.netlist_ = this;
+    to.name_const_ = from.name_const_;
+    to.first_pin_ref_ = from.first_pin_ref_;
+  }
+  pin_count_ = definition.pin_count_;
+  port_pin_count_ = definition.port_pin_count_;
+  pins_ = std::make_unique<Pin[]>(pin_count_);
+  const uintptr_t own_tag = reinterpret_cast<uintptr_t>(this) | 1;
+  for (uint32_t i = 0; i < pin_count_; ++i) {
+    const Pin& from = definition.pins_[i];
+    Pin& to = pins_[i];
+    if (Cell* cell = from.GetCell())
+      to.owner_ = reinterpret_cast<uintptr_t>(&cells_[definition.IndexOf(cell)]);
+    else
+      to.owner_ = own_tag;
+    to.port_ = from.port_;
+    to.net_flags_ = from.net_flags_;
+    if (from.port_) to.SetName(&from.port_->Name());
+  }
+}
+
 Netlist::~Netlist() = default;
 
 std::string Netlist::PathPrefix() const {
@@ -15,126 +52,99 @@ std::string Netlist::PathPrefix() const {
   return instance_->GetFullName() + "/";
 }
 
-Cell* Netlist::AddCell(const std::string* name, const std::string* ref_name) {
-  cells_.emplace_back(name, ref_name, this);
-  return &cells_.back();
+std::string_view Netlist::CellName(uint32_t index) const {
+  return definition_->names_.View(cells_[index].name_kind_ & Cell::kNameMask);
 }
 
-const std::string* Netlist::OwnName(std::string_view name) {
-  own_names_.emplace_back(name);
-  return &own_names_.back();
+std::string_view Netlist::NetName(uint32_t index) const {
+  return definition_->names_.View(nets_[index].name_const_ & Net::kNameMask);
 }
 
-void Netlist::IndexNewCells() const {
-  if (cells_indexed_ == 0) cell_index_.reserve(cells_.size());
-  for (; cells_indexed_ < cells_.size(); ++cells_indexed_) {
-    Cell* cell = const_cast<Cell*>(&cells_[cells_indexed_]);
-    cell_index_.emplace(cell->Name(), cell);
+const std::string& Netlist::CellNameString(uint32_t index) const {
+  const Netlist* def = definition_;
+  if (!def->cell_strings_) {
+    def->cell_strings_ = std::make_unique<std::string[]>(def->cell_count_);
+    for (uint32_t i = 0; i < def->cell_count_; ++i)
+      def->cell_strings_[i] = std::string(def->CellName(i));
   }
+  return def->cell_strings_[index];
 }
 
-Cell* Netlist::FindCell(const std::string& name) const {
-  IndexNewCells();
-  auto found = cell_index_.find(name);
-  return found == cell_index_.end() ? nullptr : found->second;
-}
-
-Net* Netlist::AddNet(const std::string* name) {
-  nets_.emplace_back(name, this);
-  Net* net = &nets_.back();
-  net_index_.emplace(*name, net);
-  return net;
-}
-
-void Netlist::AddNetAlias(const std::string* alias, Net* net) {
-  net_index_[*alias] = net;
-}
-
-Net* Netlist::FindNet(const std::string& name) const {
-  auto found = net_index_.find(name);
-  return found == net_index_.end() ? nullptr : found->second;
-}
-
-Net* Netlist::ConstNet(int value) {
-  int slot = value ? 1 : 0;
-  if (!tie_[slot]) {
-    Root* root = DbManager::GetRoot();
-    nets_.emplace_back(root->Intern(slot ? "*logic1*" : "*logic0*"), this);
-    tie_[slot] = &nets_.back();
-    tie_[slot]->SetConstValue(slot);
+const std::string& Netlist::NetNameString(uint32_t index) const {
+  const Netlist* def = definition_;
+  if (!def->net_strings_) {
+    def->net_strings_ = std::make_unique<std::string[]>(def->net_count_);
+    for (uint32_t i = 0; i < def->net_count_; ++i)
+      def->net_strings_[i] = std::string(def->NetName(i));
   }
-  return tie_[slot];
+  return def->net_strings_[index];
 }
 
-size_t Netlist::NamedNetCount() const {
-  return nets_.size() - (tie_[0] ? 1 : 0) - (tie_[1] ? 1 : 0);
-}
-
-void Netlist::MakePortPins() {
-  const std::vector<Port*>& ports = design_->Ports();
-  port_pin_count_ = static_cast<uint32_t>(ports.size());
-  port_pins_ = std::make_unique<Pin[]>(port_pin_count_);
-  for (uint32_t i = 0; i < port_pin_count_; ++i)
-    port_pins_[i].Init(ports[i], nullptr, this, Pin::kPortPin);
-}
-
-Port* Netlist::StubPort(const std::string* name) {
-  for (const auto& port : stub_ports_)
-    if (&port->Name() == name) return port.get();
-  stub_ports_.push_back(std::make_unique<Port>(name, kDirInternal));
-  return stub_ports_.back().get();
-}
-
-UnresolvedReference* Netlist::Unresolved(const std::string* name) {
-  for (const auto& ref : unresolved_)
-    if (&ref->Name() == name) return ref.get();
-  unresolved_.push_back(std::make_unique<UnresolvedReference>(name, design_->Owner()));
-  return unresolved_.back().get();
-}
-
-std::unique_ptr<Netlist> Netlist::CloneFor(Cell* instance) const {
-  auto copy = std::make_unique<Netlist>(design_, instance);
-  std::unordered_map<const Pin*, Pin*> pin_map;
-  std::unordered_map<const Net*, Net*> net_map;
-  for (const Net& net : nets_) {
-    Net* twin = copy->AddNet(&net.Name());
-    twin->SetConstValue(net.LocalConstValue());
-    net_map.emplace(&net, twin);
-    if (&net == tie_[0]) copy->tie_[0] = twin;
-    if (&net == tie_[1]) copy->tie_[1] = twin;
+Cell* Netlist::FindCell(std::string_view name) const {
+  const Netlist* def = definition_;
+  if (!def->cell_index_) {
+    def->cell_index_ = std::make_unique<NameIndex>([def](uint32_t i) { return def->CellName(i); });
+    def->cell_index_->Reserve(def->cell_count_);
+    for (uint32_t i = 0; i < def->cell_count_; ++i) def->cell_index_->Insert(def->CellName(i), i);
   }
-  for (const auto& entry : aliases_) copy->aliases_[entry.first] = net_map[entry.second];
-  for (const Cell& cell : cells_) {
-    Cell* twin = copy->AddCell(&cell.Name(), &cell.GetRefName());
-    twin->Bind(cell.GetRef(), cell.GetRefDesign(), cell.GetRefLibCell(), cell.PinCount());
-    for (uint32_t i = 0; i < cell.PinCount(); ++i) {
-      const Pin* pin = cell.GetPin(i);
-      Pin* twin_pin = twin->GetPin(i);
-      twin_pin->Init(pin->GetPort(), twin, nullptr, pin->Flags());
-      pin_map.emplace(pin, twin_pin);
-    }
-  }
-  copy->MakePortPins();
-  for (uint32_t i = 0; i < port_pin_count_; ++i) {
-    copy->port_pins_[i].SetFlags(port_pins_[i].Flags());
-    pin_map.emplace(&port_pins_[i], &copy->port_pins_[i]);
-  }
-  for (const Net& net : nets_) {
-    Net* twin = net_map[&net];
-    for (Pin* pin : net.Pins()) {
-      Pin* twin_pin = pin_map[pin];
-      twin_pin->SetNet(twin);
-      twin->AddPin(twin_pin);
-    }
-  }
-  copy->source_ = source_;
-  copy->linked_ = linked_;
-  return copy;
+  uint32_t index = def->cell_index_->Find(name);
+  return index == NameIndex::kNone ? nullptr : &cells_[index];
 }
 
-Netlist* Netlist::AddClone(std::unique_ptr<Netlist> clone) {
-  clones_.push_back(std::move(clone));
-  return clones_.back().get();
+Net* Netlist::FindNet(std::string_view name) const {
+  const Netlist* def = definition_;
+  if (!def->net_index_) {
+    // Values below the net count are nets; above, aliases (count + i).
+    def->net_index_ = std::make_unique<NameIndex>([def](uint32_t value) {
+      return value < def->net_count_
+                 ? def->NetName(value)
+                 : def->names_.View(def->aliases_[value - def->net_count_].first);
+    });
+    def->net_index_->Reserve(def->named_net_count_ + def->aliases_.size());
+    for (uint32_t i = 0; i < def->named_net_count_; ++i)
+      def->net_index_->Insert(def->NetName(i), i);
+    for (uint32_t i = 0; i < def->aliases_.size(); ++i)
+      def->net_index_->Insert(def->names_.View(def->aliases_[i].first), def->net_count_ + i);
+  }
+  uint32_t value = def->net_index_->Find(name);
+  if (value == NameIndex::kNone) return nullptr;
+  if (value >= def->net_count_) value = def->aliases_[value - def->net_count_].second;
+  return &nets_[value];
+}
+
+Net* Netlist::ConstNet(int value) const {
+  uint32_t index = definition_->tie_net_[value ? 1 : 0];
+  return index == UINT32_MAX ? nullptr : &nets_[index];
+}
+
+uint32_t Netlist::CellPinCount(uint32_t cell_index) const {
+  uint32_t first = cells_[cell_index].first_pin_;
+  uint32_t last = cell_index + 1 < cell_count_ ? cells_[cell_index + 1].first_pin_ : pin_count_;
+  return last > first ? last - first : 0;
+}
+
+NetPinRange Netlist::NetPins(uint32_t net_index) const {
+  const std::vector<uint32_t>& refs = definition_->net_pins_;
+  if (refs.empty()) return NetPinRange(pins_.get(), nullptr, nullptr);
+  uint32_t first = nets_[net_index].first_pin_ref_;
+  uint32_t last = net_index + 1 < net_count_ ? nets_[net_index + 1].first_pin_ref_
+                                             : static_cast<uint32_t>(refs.size());
+  return NetPinRange(pins_.get(), refs.data() + first, refs.data() + last);
+}
+
+Netlist* Netlist::ChildOf(const Cell* cell) const {
+  if (children_.empty()) return nullptr;
+  auto found = children_.find(IndexOf(cell));
+  return found == children_.end() ? nullptr : found->second;
+}
+
+size_t Netlist::Bytes() const {
+  size_t bytes = sizeof(*this) + cell_count_ * sizeof(Cell) + net_count_ * sizeof(Net) +
+                 pin_count_ * sizeof(Pin);
+  if (IsDefinition())
+    bytes += names_.Bytes() + net_pins_.size() * sizeof(uint32_t) + source_.Bytes() +
+             aliases_.size() * sizeof(aliases_[0]);
+  return bytes;
 }
 
 }  // namespace cdm

@@ -1,10 +1,13 @@
-// The contents of one level of hierarchy: a design's own definition, or a
-// copy of it elaborated for one more instance of the design. Cells, nets
-// and the pins that stand for the design's ports live here.
+// The contents of one level of hierarchy: a design's own definition, or
+// the copy of a definition made for one instance of it in the elaborated
+// design. Cells, nets and pins live in arrays made once; the pins of a
+// netlist are one array (the design's port pins, then each cell's pins in
+// order), and a net's pins are a slice of one index array. Names live in a
+// pool of the definition, which its copies share with the connection
+// lists.
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,6 +15,8 @@
 #include <vector>
 
 #include "db/ModuleSource.h"
+#include "db/NameIndex.h"
+#include "db/NamePool.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
@@ -19,92 +24,131 @@
 namespace cdm {
 
 class Design;
+class Elaboration;
 class Port;
+
+// A range over the objects of an array.
+template <class T>
+class Span {
+ public:
+  Span(T* first, size_t count) : first_(first), count_(count) {}
+  T* begin() const { return first_; }
+  T* end() const { return first_ + count_; }
+  size_t size() const { return count_; }
+  bool empty() const { return count_ == 0; }
+  T& operator[](size_t i) const { return first_[i]; }
+
+ private:
+  T* first_;
+  size_t count_;
+};
 
 class Netlist {
  public:
-  Netlist(Design* design, Cell* instance);
+  // An empty definition of `design`; filled by the reader (NetlistEditor).
+  explicit Netlist(Design* design);
+  // The copy of the linked `definition` for `instance` in the elaborated
+  // design: cells, nets and pins of its own, names and connection lists
+  // shared with the definition.
+  Netlist(const Netlist& definition, Cell* instance);
   ~Netlist();
   Netlist(const Netlist&) = delete;
   Netlist& operator=(const Netlist&) = delete;
 
   Design* GetDesign() const { return design_; }
-  // The hierarchical cell this netlist is elaborated under; null at the top
-  // and for a definition no instance uses.
+  // The hierarchical cell this netlist is the copy for; null for a
+  // definition (the top of the elaborated design is its own definition).
   Cell* GetInstance() const { return instance_; }
-  void SetInstance(Cell* instance) { instance_ = instance; }
-  // "u_core/u_alu/" below the top, "" at the top.
+  const Netlist* Definition() const { return definition_; }
+  bool IsDefinition() const { return definition_ == this; }
+  // "u_core/u_alu/" below the top, "" at the top and for a definition.
   std::string PathPrefix() const;
 
-  // A stable copy of a name unique to this netlist (cells, nets): kept
-  // here rather than interned, as nothing else shares it.
-  const std::string* OwnName(std::string_view name);
-
   // Cells in creation order.
-  Cell* AddCell(const std::string* name, const std::string* ref_name);
-  const std::deque<Cell>& Cells() const { return cells_; }
-  std::deque<Cell>& Cells() { return cells_; }
-  Cell* FindCell(const std::string& name) const;
+  Span<Cell> Cells() const { return Span<Cell>(cells_.get(), cell_count_); }
+  uint32_t CellCount() const { return cell_count_; }
+  uint32_t IndexOf(const Cell* cell) const { return static_cast<uint32_t>(cell - cells_.get()); }
+  Cell* FindCell(std::string_view name) const;
+  std::string_view CellName(uint32_t index) const;
 
-  // Nets in creation order. Names may be merged by assign: the alias then
-  // finds the surviving net.
-  Net* AddNet(const std::string* name);
-  void AddNetAlias(const std::string* alias, Net* net);
-  const std::deque<Net>& Nets() const { return nets_; }
-  std::deque<Net>& Nets() { return nets_; }
-  Net* FindNet(const std::string& name) const;
-  // The tie net of a bare constant in a connection (value 0 or 1).
-  Net* ConstNet(int value);
-  bool IsTieNet(const Net* net) const { return net == tie_[0] || net == tie_[1]; }
-  size_t NamedNetCount() const;
-
-  // One pin per port of the design, in port order.
-  void MakePortPins();
-  Pin* PortPin(uint32_t index) const {
-    return index < port_pin_count_ ? &port_pins_[index] : nullptr;
+  // Nets in creation order: the named nets, then the tie nets of bare
+  // constants. A name merged away by assign finds the surviving net.
+  Span<Net> Nets() const { return Span<Net>(nets_.get(), net_count_); }
+  uint32_t NetCount() const { return net_count_; }
+  uint32_t IndexOf(const Net* net) const { return static_cast<uint32_t>(net - nets_.get()); }
+  Net* FindNet(std::string_view name) const;
+  std::string_view NetName(uint32_t index) const;
+  // The tie net of a bare constant in a connection (value 0 or 1); null
+  // when the module connects no such constant.
+  Net* ConstNet(int value) const;
+  bool IsTieNet(const Net* net) const { return IndexOf(net) >= NamedNetCount(); }
+  size_t NamedNetCount() const { return definition_->named_net_count_; }
+  // The merged-away names of nets and the nets they stand for.
+  const std::vector<std::pair<uint32_t, uint32_t>>& Aliases() const {
+    return definition_->aliases_;
   }
+
+  // Pins: one per port of the design, in port order, then the cells' pins.
+  uint32_t PinCount() const { return pin_count_; }
+  Pin* PinAt(uint32_t index) const { return &pins_[index]; }
+  uint32_t IndexOf(const Pin* pin) const { return static_cast<uint32_t>(pin - pins_.get()); }
+  Pin* PortPin(uint32_t index) const { return index < port_pin_count_ ? &pins_[index] : nullptr; }
   uint32_t PortPinCount() const { return port_pin_count_; }
+  // The pins of the cell at `cell_index`: where they start, how many.
+  uint32_t CellFirstPin(uint32_t cell_index) const { return cells_[cell_index].first_pin_; }
+  uint32_t CellPinCount(uint32_t cell_index) const;
+  NetPinRange NetPins(uint32_t net_index) const;
 
-  // Stub ports for the pins of unresolved cells, and their references,
-  // owned here.
-  Port* StubPort(const std::string* name);
-  UnresolvedReference* Unresolved(const std::string* name);
+  // The copy below a hierarchical cell of this netlist; null if none.
+  Netlist* ChildOf(const Cell* cell) const;
+  bool IsLinked() const { return definition_->linked_; }
+  // The elaborated design this netlist is part of (its top or a copy);
+  // null for a definition outside it.
+  Elaboration* GetElaboration() const { return elaboration_; }
 
-  // What the reader saw: kept so that link can be run again.
+  // What the reader saw, kept so that link can run again (definitions).
   ModuleSource& Source() { return source_; }
-  const ModuleSource& Source() const { return source_; }
+  const ModuleSource& Source() const { return definition_->source_; }
 
-  // A copy of this netlist (cells, nets, pins, connections) for `instance`.
-  std::unique_ptr<Netlist> CloneFor(Cell* instance) const;
-
-  // Copies elaborated below this netlist when it is the top; owned here.
-  Netlist* AddClone(std::unique_ptr<Netlist> clone);
-  void ClearClones() { clones_.clear(); }
-
-  bool IsLinked() const { return linked_; }
-  void SetLinked(bool linked) { linked_ = linked; }
+  // Bytes held by the netlist's own arrays (not its children).
+  size_t Bytes() const;
 
  private:
+  friend class Cell;
+  friend class Net;
+  friend class NetlistEditor;
+
+  const std::string& CellNameString(uint32_t index) const;
+  const std::string& NetNameString(uint32_t index) const;
+
   Design* design_;
-  Cell* instance_;
-  std::deque<Cell> cells_;
-  std::deque<Net> nets_;
-  // Name indexes, brought up to date on lookup: building them while a
-  // million instances are read would cost more than the reading.
-  mutable std::unordered_map<std::string_view, Cell*> cell_index_;
-  mutable size_t cells_indexed_ = 0;
-  void IndexNewCells() const;
-  mutable std::unordered_map<std::string_view, Net*> net_index_;
-  mutable size_t nets_indexed_ = 0;
-  std::unordered_map<std::string_view, Net*> aliases_;
-  std::deque<std::string> own_names_;
-  Net* tie_[2] = {nullptr, nullptr};
-  std::unique_ptr<Pin[]> port_pins_;
+  Cell* instance_ = nullptr;
+  const Netlist* definition_;
+
+  std::unique_ptr<Cell[]> cells_;
+  uint32_t cell_count_ = 0;
+  std::unique_ptr<Net[]> nets_;
+  uint32_t net_count_ = 0;
+  std::unique_ptr<Pin[]> pins_;
+  uint32_t pin_count_ = 0;
   uint32_t port_pin_count_ = 0;
-  std::vector<std::unique_ptr<Port>> stub_ports_;
-  std::vector<std::unique_ptr<UnresolvedReference>> unresolved_;
+  std::unordered_map<uint32_t, Netlist*> children_;  // cell index -> copy
+  Elaboration* elaboration_ = nullptr;
+
+  // Shared with the copies: held by the definition only.
+  NamePool names_;
+  std::vector<uint32_t> net_pins_;                      // pin indices, grouped by net
+  std::vector<std::pair<uint32_t, uint32_t>> aliases_;  // name offset, net index
+  uint32_t named_net_count_ = 0;
+  uint32_t tie_net_[2] = {UINT32_MAX, UINT32_MAX};
+  mutable std::unique_ptr<NameIndex> cell_index_;
+  mutable std::unique_ptr<NameIndex> net_index_;
+  mutable std::unique_ptr<std::string[]> cell_strings_;
+  mutable std::unique_ptr<std::string[]> net_strings_;
   ModuleSource source_;
-  std::vector<std::unique_ptr<Netlist>> clones_;
+  // References and stub ports of unresolved cells, by name.
+  std::unordered_map<const std::string*, std::unique_ptr<UnresolvedReference>> unresolved_;
+  std::unordered_map<const std::string*, std::unique_ptr<Port>> stub_ports_;
   bool linked_ = false;
 };
 

@@ -1,15 +1,26 @@
 #include "hostapi/cdm/Object.h"
 
+#include "db/AttributeStore.h"
+
 namespace cdm {
+
+Object::~Object() {
+  AttributeStore::Erase(this);
+}
 
 const std::string& Object::EmptyName() {
   static const std::string empty;
   return empty;
 }
 
+const std::vector<Attribute>* Object::Attributes() const {
+  return AttributeStore::Find(this);
+}
+
 const Attribute* Object::FindAttribute(AttrId id) const {
-  if (!attributes_) return nullptr;
-  for (const Attribute& attribute : *attributes_)
+  const std::vector<Attribute>* attributes = AttributeStore::Find(this);
+  if (!attributes) return nullptr;
+  for (const Attribute& attribute : *attributes)
     if (attribute.id == id) return &attribute;
   return nullptr;
 }
@@ -20,8 +31,8 @@ float Object::GetFloatAttribute(AttrId id) const {
 }
 
 void Object::SetAttribute(Attribute attribute) {
-  if (!attributes_) attributes_ = std::make_unique<std::vector<Attribute>>();
-  for (Attribute& existing : *attributes_) {
+  std::vector<Attribute>& attributes = AttributeStore::Get(this);
+  for (Attribute& existing : attributes) {
     bool same = existing.id == attribute.id &&
                 (attribute.id != AttrId::kUser || existing.name == attribute.name);
     if (same) {
@@ -29,7 +40,7 @@ void Object::SetAttribute(Attribute attribute) {
       return;
     }
   }
-  attributes_->push_back(std::move(attribute));
+  attributes.push_back(std::move(attribute));
 }
 
 }  // namespace cdm

@@ -5,11 +5,9 @@
 
 #include "db/Netlist.h"
 #include "hostapi/cdm/Cell.h"
-#include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
-#include "hostapi/cdm/Root.h"
 
 namespace cdm {
 namespace {
@@ -40,8 +38,7 @@ Cell* FindCellByPath(const Design* top, const std::string& name) {
 Net* FindNetByPath(const Design* top, const std::string& name) {
   if (!top) return nullptr;
   return FindByPath<Net>(top->GetNetlist(), name, [](Netlist* netlist, const std::string& local) {
-    Net* net = netlist->FindNet(local);
-    return net && !netlist->IsTieNet(net) ? net : nullptr;
+    return netlist->FindNet(local);
   });
 }
 
@@ -53,32 +50,6 @@ Pin* FindPinByPath(const Design* top, const std::string& name) {
   if (slash == std::string::npos) return nullptr;
   Cell* cell = FindCellByPath(top, name.substr(0, slash));
   return cell ? cell->FindPin(name.substr(slash + 1)) : nullptr;
-}
-
-Cell* DbManager::FindCell(const std::string& name) {
-  return FindCellByPath(GetCurrentDesign(), name);
-}
-
-Net* DbManager::FindNet(const std::string& name) {
-  return FindNetByPath(GetCurrentDesign(), name);
-}
-
-Pin* DbManager::FindPin(const std::string& name) {
-  return FindPinByPath(GetCurrentDesign(), name);
-}
-
-Design* Root::FindDesign(const std::string& name) const {
-  for (Design* design : designs_)
-    if (design->Name() == name) return design;
-  return nullptr;
-}
-
-Design* Root::AddDesign(std::unique_ptr<Design> design) {
-  Design* added = design.get();
-  designs_.push_back(added);
-  Own(std::move(design));
-  NoteChange();
-  return added;
 }
 
 }  // namespace cdm

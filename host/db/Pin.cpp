@@ -1,5 +1,6 @@
 #include "hostapi/cdm/Pin.h"
 
+#include "db/FlatNet.h"
 #include "db/Netlist.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Net.h"
@@ -7,29 +8,23 @@
 
 namespace cdm {
 
-void CollectNetPins(const Net* net, HierarchyMode mode, bool drivers, const Pin* skip,
-                    std::vector<const Pin*>& pins);
-void CollectNetPins(const Net* net, HierarchyMode mode, bool drivers, const Pin* skip,
-                    std::vector<Pin*>& pins);
+Netlist* Pin::GetNetlist() const {
+  if (owner_ & 1) return reinterpret_cast<Netlist*>(owner_ & ~uintptr_t{1});
+  return owner_ ? reinterpret_cast<Cell*>(owner_)->GetNetlist() : nullptr;
+}
 
-void Pin::Init(Port* port, Cell* cell, Netlist* netlist, uint8_t flags) {
-  port_ = port;
-  cell_ = cell;
-  netlist_ = cell ? nullptr : netlist;
-  flags_ = flags;
-  net_ = nullptr;
-  SetName(port ? &port->Name() : nullptr);
+Net* Pin::GetNet() const {
+  uint32_t slot = NetSlot();
+  if (!slot) return nullptr;
+  return &GetNetlist()->Nets()[slot - 1];
 }
 
 std::string Pin::GetFullName() const {
-  if (cell_) return cell_->GetFullName() + "/" + Name();
-  Cell* instance = netlist_ ? netlist_->GetInstance() : nullptr;
+  if (Cell* cell = GetCell()) return cell->GetFullName() + "/" + Name();
+  Netlist* netlist = GetNetlist();
+  Cell* instance = netlist ? netlist->GetInstance() : nullptr;
   if (instance && !IsTopPortPin()) return instance->GetFullName() + "/" + Name();
   return Name();
-}
-
-Netlist* Pin::GetNetlist() const {
-  return cell_ ? cell_->GetNetlist() : netlist_;
 }
 
 uint8_t Pin::GetDirection() const {
@@ -48,21 +43,22 @@ const Pin* SkippedSelf(const Pin* pin) {
 }  // namespace
 
 void Pin::GetFaninPins(std::vector<const Pin*>& pins, HierarchyMode mode) const {
-  if (net_) CollectNetPins(net_, mode, true, SkippedSelf(this), pins);
+  if (Net* net = GetNet()) CollectNetPins(net, mode, true, SkippedSelf(this), pins);
 }
 void Pin::GetFanoutPins(std::vector<const Pin*>& pins, HierarchyMode mode) const {
-  if (net_) CollectNetPins(net_, mode, false, SkippedSelf(this), pins);
+  if (Net* net = GetNet()) CollectNetPins(net, mode, false, SkippedSelf(this), pins);
 }
 void Pin::GetFaninPins(std::vector<Pin*>& pins, HierarchyMode mode) const {
-  if (net_) CollectNetPins(net_, mode, true, SkippedSelf(this), pins);
+  if (Net* net = GetNet()) CollectNetPins(net, mode, true, SkippedSelf(this), pins);
 }
 void Pin::GetFanoutPins(std::vector<Pin*>& pins, HierarchyMode mode) const {
-  if (net_) CollectNetPins(net_, mode, false, SkippedSelf(this), pins);
+  if (Net* net = GetNet()) CollectNetPins(net, mode, false, SkippedSelf(this), pins);
 }
 
 Pin* Pin::GetCurrentDriverPin() const {
   if (IsNetDriver() && !IsHierarchicalPin()) return const_cast<Pin*>(this);
-  return net_ ? net_->GetDriverPin() : nullptr;
+  Net* net = GetNet();
+  return net ? net->GetDriverPin() : nullptr;
 }
 
 bool Pin::IsConst() const {
@@ -70,8 +66,9 @@ bool Pin::IsConst() const {
 }
 
 int Pin::GetConstValue() const {
-  if (!net_) return -1;
-  int value = net_->GetConstValue();
+  Net* net = GetNet();
+  if (!net) return -1;
+  int value = net->GetConstValue();
   return value == 0 || value == 1 ? value : -1;
 }
 

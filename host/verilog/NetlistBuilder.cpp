@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "db/Netlist.h"
+#include "db/NetlistEditor.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Root.h"
 
@@ -21,21 +22,23 @@ cdm::AttrId KnownAttribute(std::string_view name) {
   return cdm::AttrId::kUser;
 }
 
-void SetAttributes(cdm::Object& object, const std::vector<AttrAst>& attrs) {
-  for (const AttrAst& attr : attrs) {
-    cdm::Attribute record;
-    record.id = KnownAttribute(attr.name);
-    record.name = std::string(attr.name);
-    record.text = attr.value;
-    if (attr.is_number) {
-      record.kind = cdm::AttrKind::kInt;
-      record.int_value = std::strtoll(attr.value.c_str(), nullptr, 10);
-    } else {
-      record.kind = attr.value.empty() ? cdm::AttrKind::kBool : cdm::AttrKind::kString;
-      record.int_value = attr.value.empty() ? 1 : 0;
-    }
-    object.SetAttribute(std::move(record));
+cdm::Attribute MakeAttribute(const AttrAst& attr) {
+  cdm::Attribute record;
+  record.id = KnownAttribute(attr.name);
+  record.name = std::string(attr.name);
+  record.text = attr.value;
+  if (attr.is_number) {
+    record.kind = cdm::AttrKind::kInt;
+    record.int_value = std::strtoll(attr.value.c_str(), nullptr, 10);
+  } else {
+    record.kind = attr.value.empty() ? cdm::AttrKind::kBool : cdm::AttrKind::kString;
+    record.int_value = attr.value.empty() ? 1 : 0;
   }
+  return record;
+}
+
+void SetAttributes(cdm::Object& object, const std::vector<AttrAst>& attrs) {
+  for (const AttrAst& attr : attrs) object.SetAttribute(MakeAttribute(attr));
 }
 
 const char* DirectionWord(int direction) {
@@ -94,8 +97,8 @@ NetlistBuilder::Symbol& NetlistBuilder::AddSymbol(std::string_view name, const R
 bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   std::string name(header.name);
   if (root_->FindDesign(name)) return Fail("module '" + name + "' is already loaded");
-  for (const auto& done : done_)
-    if (done->Name() == name) return Fail("module '" + name + "' is defined twice");
+  if (done_index_.Find(name) != NameTable::kNone)
+    return Fail("module '" + name + "' is defined twice");
   design_ = std::make_unique<cdm::Design>(root_->Intern(name), owner_);
   cdm::Attribute line;
   line.id = cdm::AttrId::kSourceLine;
@@ -103,8 +106,9 @@ bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   line.int_value = header.line;
   design_->SetAttribute(line);
   SetAttributes(*design_, header.attrs);
-  design_->GetNetlist()->Source().file = file_name_;
-  design_->GetNetlist()->Source().line = header.line;
+  draft_ = cdm::ModuleDraft();
+  draft_.source.file = file_name_;
+  draft_.source.line = header.line;
   header_ports_ = header.ports;
   symbols_.clear();
   symbol_index_.Clear();
@@ -112,10 +116,12 @@ bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   bit_symbol_.clear();
   parent_.clear();
   tie_.clear();
-  for (size_t i = 0; i < header_ports_.size(); ++i)
-    for (size_t j = 0; j < i; ++j)
-      if (header_ports_[i] == header_ports_[j])
-        return Fail("port '" + std::string(header_ports_[i]) + "' is listed twice");
+  NameTable listed;
+  for (size_t i = 0; i < header_ports_.size(); ++i) {
+    if (listed.Find(header_ports_[i]) != NameTable::kNone)
+      return Fail("port '" + std::string(header_ports_[i]) + "' is listed twice");
+    listed.Insert(header_ports_[i], static_cast<uint32_t>(i));
+  }
   for (const DeclAst& decl : header.ansi_decls)
     if (!Declare(decl, {})) return false;
   return true;
@@ -207,35 +213,36 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
 }
 
 bool NetlistBuilder::Instance(const InstanceAst& inst) {
-  cdm::Netlist* netlist = design_->GetNetlist();
   if (instance_index_.Find(inst.name) != NameTable::kNone)
     return Fail("instance '" + std::string(inst.name) + "' is defined twice in module '" +
                 design_->Name() + "'");
-  instance_index_.Insert(inst.name, 0);
-  const std::string* name = netlist->OwnName(inst.name);
-  cdm::Cell* cell = netlist->AddCell(name, root_->Intern(inst.ref));
-  if (!inst.attrs.empty()) SetAttributes(*cell, inst.attrs);
-  cdm::ModuleSource& source = netlist->Source();
-  cdm::InstanceSource record;
-  record.first_conn = static_cast<uint32_t>(source.conns.size());
-  record.conn_count = static_cast<uint32_t>(inst.conns.size());
-  record.line = inst.line;
+  uint32_t index = static_cast<uint32_t>(draft_.cell_names.size());
+  instance_index_.Insert(inst.name, index);
+  uint32_t name = 0;
+  if (!draft_.names.Add(inst.name, name))
+    return Fail("module '" + design_->Name() + "' has more names than fit in 1 GiB");
+  draft_.cell_names.push_back(name);
+  draft_.cell_refs.push_back(root_->Intern(inst.ref));
+  for (const AttrAst& attr : inst.attrs)
+    draft_.cell_attributes.emplace_back(index, MakeAttribute(attr));
+  draft_.source.BeginInstance(inst.line, static_cast<uint32_t>(inst.conns.size()));
+  scratch_ports_.clear();
   for (uint32_t i = 0; i < inst.conns.size(); ++i) {
     const ConnAst& conn = inst.conns[i];
-    cdm::ConnSource out;
+    const std::string* port = nullptr;
     if (!conn.port.empty()) {
-      out.port = root_->Intern(conn.port);
-      for (uint32_t j = record.first_conn; j < source.conns.size(); ++j)
-        if (source.conns[j].port == out.port)
-          return Fail("port '" + *out.port + "' of instance '" + *name + "' is connected twice");
+      port = root_->Intern(conn.port);
+      for (const std::string* seen : scratch_ports_)
+        if (seen == port)
+          return Fail("port '" + *port + "' of instance '" + std::string(inst.name) +
+                      "' is connected twice");
+      scratch_ports_.push_back(port);
     }
-    out.position = i;
-    out.first_bit = static_cast<uint32_t>(source.bits.size());
-    if (!conn.empty && !ExprBits(conn.expr, source.bits)) return false;
-    out.bit_count = static_cast<uint32_t>(source.bits.size()) - out.first_bit;
-    source.conns.push_back(out);
+    scratch_lhs_.clear();
+    if (!conn.empty && !ExprBits(conn.expr, scratch_lhs_)) return false;
+    draft_.source.AddConnection(port, scratch_lhs_.data(),
+                                static_cast<uint32_t>(scratch_lhs_.size()));
   }
-  source.instances.push_back(record);
   return true;
 }
 
@@ -282,11 +289,12 @@ std::string NetlistBuilder::BitName(uint32_t bit) const {
 }
 
 bool NetlistBuilder::FinishPorts() {
+  NameTable listed;
+  for (size_t i = 0; i < header_ports_.size(); ++i)
+    listed.Insert(header_ports_[i], static_cast<uint32_t>(i));
   for (const Symbol& symbol : symbols_) {
     if (symbol.direction < 0) continue;
-    bool listed = false;
-    for (std::string_view port : header_ports_) listed = listed || port == symbol.name;
-    if (!listed)
+    if (listed.Find(symbol.name) == NameTable::kNone)
       return Fail("'" + std::string(symbol.name) + "' is declared " +
                   DirectionWord(symbol.direction) + " but is not in the port list of module '" +
                   design_->Name() + "'");
@@ -299,21 +307,20 @@ bool NetlistBuilder::FinishPorts() {
     uint8_t direction = static_cast<uint8_t>(symbol->direction);
     cdm::DesignPortBus* bus = nullptr;
     if (symbol->range.present)
-      bus = design_->AddPortBus(std::make_unique<cdm::DesignPortBus>(
-          root_->Intern(name), direction, symbol->range.msb, symbol->range.lsb));
+      bus = cdm::NetlistEditor::AddPortBus(
+          design_.get(), std::make_unique<cdm::DesignPortBus>(
+                             root_->Intern(name), direction, symbol->range.msb, symbol->range.lsb));
     for (uint32_t i = 0; i < Width(*symbol); ++i) {
       uint32_t bit = symbol->first_bit + i;
-      auto port = std::make_unique<cdm::Port>(root_->Intern(BitName(bit)), direction);
-      port->SetBus(bus);
-      design_->AddPort(std::move(port));
-      design_->GetNetlist()->Source().port_nets.push_back(static_cast<int32_t>(bit));
+      cdm::NetlistEditor::AddPort(
+          design_.get(), std::make_unique<cdm::Port>(root_->Intern(BitName(bit)), direction), bus);
+      draft_.source.port_nets.push_back(static_cast<int32_t>(bit));
     }
   }
   return true;
 }
 
 bool NetlistBuilder::FinishNets() {
-  cdm::Netlist* netlist = design_->GetNetlist();
   size_t count = bit_symbol_.size();
   std::vector<int32_t> preferred(count, -1), class_tie(count, -1), net_of(count, -1);
   for (uint32_t bit = 0; bit < count; ++bit) {
@@ -333,27 +340,36 @@ bool NetlistBuilder::FinishNets() {
   for (uint32_t bit = 0; bit < count; ++bit) {
     int32_t root = FindRoot(static_cast<int32_t>(bit));
     if (net_of[root] < 0) {
-      cdm::Net* net = netlist->AddNet(netlist->OwnName(BitName(preferred[root])));
-      if (class_tie[root] >= 0) net->SetConstValue(class_tie[root]);
+      uint32_t name = 0;
+      if (!draft_.names.Add(BitName(preferred[root]), name))
+        return Fail("module '" + design_->Name() + "' has more names than fit in 1 GiB");
+      draft_.net_names.push_back(name);
+      draft_.net_ties.push_back(static_cast<int8_t>(class_tie[root]));
       net_of[root] = next_net++;
     }
     bit_net[bit] = net_of[root];
-    if (static_cast<int32_t>(bit) != preferred[root])
-      netlist->AddNetAlias(netlist->OwnName(BitName(bit)), &netlist->Nets()[net_of[root]]);
+    if (static_cast<int32_t>(bit) != preferred[root]) {
+      uint32_t alias = 0;
+      if (!draft_.names.Add(BitName(bit), alias))
+        return Fail("module '" + design_->Name() + "' has more names than fit in 1 GiB");
+      draft_.aliases.emplace_back(alias, static_cast<uint32_t>(net_of[root]));
+    }
   }
-  cdm::ModuleSource& source = netlist->Source();
-  for (int32_t& bit : source.bits)
-    if (bit >= 0) bit = bit_net[bit];
-  for (int32_t& bit : source.port_nets) bit = bit_net[bit];
+  draft_.source.MapBits(bit_net);
   for (const Symbol& symbol : symbols_)
     if (symbol.range.present && symbol.direction < 0)
-      design_->AddNetBus(std::make_unique<cdm::DesignNetBus>(root_->Intern(symbol.name),
+      cdm::NetlistEditor::AddNetBus(
+          design_.get(), std::make_unique<cdm::DesignNetBus>(root_->Intern(symbol.name),
                                                              symbol.range.msb, symbol.range.lsb));
   return true;
 }
 
 bool NetlistBuilder::EndModule(uint32_t) {
   if (!FinishPorts() || !FinishNets()) return false;
+  std::string error;
+  if (!cdm::NetlistEditor::Fill(root_, design_->GetNetlist(), std::move(draft_), error))
+    return Fail(error);
+  done_index_.Insert(design_->Name(), static_cast<uint32_t>(done_.size()));
   done_.push_back(std::move(design_));
   return true;
 }

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "db/NetlistEditor.h"
 #include "verilog/NameTable.h"
 #include "verilog/VerilogAst.h"
 
@@ -68,6 +69,7 @@ class NetlistBuilder : public StatementSink {
   std::string error_;
   uint32_t error_line_ = 0;
   std::vector<std::unique_ptr<cdm::Design>> done_;
+  NameTable done_index_;  // names of `done_`, views into their designs
 
   // The module being read.
   std::unique_ptr<cdm::Design> design_;
@@ -79,6 +81,8 @@ class NetlistBuilder : public StatementSink {
   std::vector<int32_t> parent_;       // union-find over bits
   std::vector<int8_t> tie_;           // per bit: -1, 0 or 1 from assigns
   std::vector<int32_t> scratch_lhs_, scratch_rhs_;
+  std::vector<const std::string*> scratch_ports_;
+  cdm::ModuleDraft draft_;
 };
 
 }  // namespace verilog

@@ -15,12 +15,14 @@ namespace cdm {
 class Design;
 class LibCell;
 class Netlist;
+class NetlistEditor;
 class Pin;
 class Reference;
 
 // What a cell refers to when link found neither a module nor a library
-// cell of its name: only the name, and the netlist file it was written in
-// as its owner. Neither IsDesign nor IsLibRef.
+// cell of its name (and, before link, what every cell refers to): only the
+// name, and the netlist file it was written in as its owner. Neither
+// IsDesign nor IsLibRef.
 class UnresolvedReference : public Reference {
  public:
   UnresolvedReference(const std::string* name, Object* owner) : Reference(name), owner_(owner) {}
@@ -34,23 +36,23 @@ class UnresolvedReference : public Reference {
 
 class Cell : public Object {
  public:
-  Cell(const std::string* name, const std::string* ref_name, Netlist* netlist);
-  ~Cell() override;
+  Cell() = default;
 
   // Path of the enclosing instances and the local name: "u_core/u_alu/U12".
   std::string GetFullName() const override;
 
-  // What the cell instantiates: a Design, a LibCell, or after link for an
-  // unresolved reference an UnresolvedReference; null only before link.
+  // What the cell instantiates: a Design, a LibCell, or an
+  // UnresolvedReference (before link, and after it when nothing of the
+  // name was found). Never null for a cell read from a netlist.
   Reference* GetRef() const { return ref_; }
-  Design* GetRefDesign() const { return design_; }
-  LibCell* GetRefLibCell() const { return lib_cell_; }
+  Design* GetRefDesign() const;
+  LibCell* GetRefLibCell() const;
   // The reference name as the netlist writes it (also when unresolved).
-  const std::string& GetRefName() const { return *ref_name_; }
+  const std::string& GetRefName() const;
 
-  bool IsLeaf() const { return GetRefDesign() == nullptr; }
-  bool IsHierarchical() const { return GetRefDesign() != nullptr; }
-  bool IsUnresolved() const { return design_ == nullptr && lib_cell_ == nullptr; }
+  bool IsLeaf() const { return Kind() != kDesign; }
+  bool IsHierarchical() const { return Kind() == kDesign; }
+  bool IsUnresolved() const { return Kind() == kUnresolved; }
   // An instance of a tie cell: a library cell whose outputs are all constant.
   bool IsConstCell() const;
   // An instance of a cell of the generic library.
@@ -58,30 +60,28 @@ class Cell : public Object {
 
   Iterator<Pin>* PinIter() const;  // deleted by the caller
   Pin* FindPin(const std::string& name) const;
-  uint32_t PinCount() const { return pin_count_; }
+  uint32_t PinCount() const;
   Pin* GetPin(uint32_t index) const;
 
-  // The netlist the cell is in, and for a hierarchical cell the netlist
-  // elaborated below it (null before elaboration).
+  // The netlist the cell is in, and for a hierarchical cell of the
+  // elaborated design the netlist of its instance (null otherwise).
   Netlist* GetNetlist() const { return netlist_; }
-  Netlist* GetChildNetlist() const { return child_; }
-
-  // Building (the linker only).
-  // Binds the reference (one of `design`, `lib_cell`, or neither) and makes
-  // `pin_count` fresh, unconnected pins.
-  void Bind(Reference* ref, Design* design, LibCell* lib_cell, uint32_t pin_count);
-  Pin* MutablePins() { return pins_.get(); }
-  void SetChildNetlist(Netlist* child) { child_ = child; }
+  Netlist* GetChildNetlist() const;
 
  private:
-  const std::string* ref_name_;
+  friend class Netlist;
+  friend class NetlistEditor;
+
+  enum RefKind : uint32_t { kUnresolved = 0, kLib = 1, kDesign = 2 };
+  static constexpr uint32_t kNameMask = (1u << 30) - 1;
+  RefKind Kind() const { return static_cast<RefKind>(name_kind_ >> 30); }
+  uint32_t Index() const;
+  const std::string& MaterializeName() const override;
+
+  Netlist* netlist_ = nullptr;
   Reference* ref_ = nullptr;
-  Design* design_ = nullptr;
-  LibCell* lib_cell_ = nullptr;
-  Netlist* netlist_;
-  Netlist* child_ = nullptr;
-  std::unique_ptr<Pin[]> pins_;
-  uint32_t pin_count_ = 0;
+  uint32_t name_kind_ = 0;  // offset of the name in the netlist's pool; kind in the top bits
+  uint32_t first_pin_ = 0;  // in the netlist's pin array
 };
 
 }  // namespace cdm

@@ -15,8 +15,8 @@ class Pin;
 class DbManager {
  public:
   static Root* GetRoot();
-  static Design* GetCurrentDesign();        // null if none is set
-  static LibertyLib* GetDefaultLiberty();   // null if no library is loaded
+  static Design* GetCurrentDesign();       // null if none is set
+  static LibertyLib* GetDefaultLiberty();  // null if no library is loaded
   static LibertyLib* GetGenericLib();
   // Look a full path name up from the current design; null when not found.
   static Cell* FindCell(const std::string& name);

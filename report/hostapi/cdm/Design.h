@@ -4,6 +4,8 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "hostapi/cdm/Iterator.h"
@@ -15,6 +17,7 @@ namespace cdm {
 class Cell;
 class Net;
 class Netlist;
+class NetlistEditor;
 class Pin;
 
 // Iterator over ports. This base is an empty walk; designs hand out a
@@ -59,21 +62,25 @@ class Design : public Reference {
   Object* Owner() const { return owner_.get(); }
   const std::string& GetFileName() const { return Owner()->Name(); }
 
-  // The design's own netlist (its definition).
+  // The design's own netlist: its definition. For the current design it
+  // is also the top of the elaborated hierarchy.
   Netlist* GetNetlist() const { return netlist_.get(); }
 
-  // Building (the reader and linker only).
+ private:
+  friend class NetlistEditor;
   Port* AddPort(std::unique_ptr<Port> port);
   DesignPortBus* AddPortBus(std::unique_ptr<DesignPortBus> bus);
   DesignNetBus* AddNetBus(std::unique_ptr<DesignNetBus> bus);
+  void IndexPorts() const;
 
- private:
   std::shared_ptr<Object> owner_;
   std::vector<Port*> ports_;
   std::vector<std::unique_ptr<Port>> port_store_;
   std::vector<std::unique_ptr<DesignPortBus>> port_buses_;
   std::vector<std::unique_ptr<DesignNetBus>> net_buses_;
   std::unique_ptr<Netlist> netlist_;
+  // Port names to positions, made on the first look-up.
+  mutable std::unique_ptr<std::unordered_map<std::string_view, uint32_t>> port_index_;
 };
 
 }  // namespace cdm

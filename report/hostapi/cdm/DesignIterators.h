@@ -2,6 +2,7 @@
 // object the caller creates and deletes; it gathers what it walks when made.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -12,6 +13,7 @@ namespace cdm {
 class Cell;
 class Design;
 class Net;
+class Netlist;
 class Pin;
 
 // Cells of a design that pass `predicate`. `deep`: also the cells below
@@ -20,12 +22,19 @@ class DesignCellIterator : public Iterator<Cell> {
  public:
   DesignCellIterator(const Design* design, bool deep,
                      const std::function<bool(const Cell*)>& predicate);
-  bool HasNext() override { return next_ < cells_.size(); }
-  Cell* Next() override { return next_ < cells_.size() ? cells_[next_++] : nullptr; }
+  bool HasNext() override { return ahead_ != nullptr; }
+  Cell* Next() override;
 
  private:
-  std::vector<Cell*> cells_;
-  size_t next_ = 0;
+  void Advance();
+  struct Frame {
+    Netlist* netlist;
+    uint32_t next;
+  };
+  std::vector<Frame> stack_;
+  std::function<bool(const Cell*)> predicate_;
+  bool deep_;
+  Cell* ahead_ = nullptr;
 };
 
 // Pins of a design that pass `predicate`: the design's port pins, then the
@@ -34,12 +43,21 @@ class DesignCellIterator : public Iterator<Cell> {
 class AllPinIterator : public Iterator<Pin> {
  public:
   AllPinIterator(const Design* design, bool deep, const std::function<bool(const Pin*)>& predicate);
-  bool HasNext() override { return next_ < pins_.size(); }
-  Pin* Next() override { return next_ < pins_.size() ? pins_[next_++] : nullptr; }
+  bool HasNext() override { return ahead_ != nullptr; }
+  Pin* Next() override;
 
  private:
-  std::vector<Pin*> pins_;
-  size_t next_ = 0;
+  void Advance();
+  struct Frame {
+    Netlist* netlist;
+    uint32_t next_pin;   // in the netlist's pin array
+    uint32_t next_cell;  // the cell whose pins come after the current run
+    uint32_t run_end;    // end of the current run of pins
+  };
+  std::vector<Frame> stack_;
+  std::function<bool(const Pin*)> predicate_;
+  bool deep_;
+  Pin* ahead_ = nullptr;
 };
 
 // Pins of a net that pass `predicate`. Without `with_hierarchical`: the

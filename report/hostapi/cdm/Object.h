@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,29 +37,35 @@ class Object {
  public:
   // `name` must outlive the object: the database interns every name it keeps.
   explicit Object(const std::string* name) : name_(name ? name : &EmptyName()) {}
-  virtual ~Object() = default;
+  virtual ~Object();
   Object(const Object&) = delete;
   Object& operator=(const Object&) = delete;
 
-  const std::string& Name() const { return *name_; }
+  const std::string& Name() const { return name_ ? *name_ : MaterializeName(); }
   // Printable path name: cells, pins and nets override it.
-  virtual std::string GetFullName() const { return *name_; }
+  virtual std::string GetFullName() const { return Name(); }
 
+  // Attributes are kept beside the objects (few objects have any), so an
+  // object costs no more than its own fields.
   bool HasAttribute(AttrId id) const { return FindAttribute(id) != nullptr; }
   const Attribute* FindAttribute(AttrId id) const;
   // A float attribute's value; 0.0 when absent or not a float.
   float GetFloatAttribute(AttrId id) const;
   void SetAttribute(Attribute attribute);
-  const std::vector<Attribute>* Attributes() const { return attributes_.get(); }
+  // All attributes of the object; null when it has none.
+  const std::vector<Attribute>* Attributes() const;
 
   static const std::string& EmptyName();
 
  protected:
-  void SetName(const std::string* name) { name_ = name ? name : &EmptyName(); }
+  // For objects whose name lives in a pool of their netlist: the string is
+  // made when the name is first asked for (MaterializeName).
+  Object() : name_(nullptr) {}
+  virtual const std::string& MaterializeName() const { return EmptyName(); }
+  void SetName(const std::string* name) const { name_ = name ? name : &EmptyName(); }
 
  private:
-  const std::string* name_;
-  std::unique_ptr<std::vector<Attribute>> attributes_;  // most objects have none
+  mutable const std::string* name_;
 };
 
 }  // namespace cdm

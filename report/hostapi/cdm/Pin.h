@@ -14,6 +14,7 @@ namespace cdm {
 class Cell;
 class Net;
 class Netlist;
+class NetlistEditor;
 class Port;
 
 class Pin : public Object {
@@ -25,23 +26,28 @@ class Pin : public Object {
   // the top).
   std::string GetFullName() const override;
 
-  Net* GetNet() const { return net_; }
-  Cell* GetCell() const { return cell_; }  // null for a port pin
+  Net* GetNet() const;
+  Cell* GetCell() const {  // null for a port pin
+    return (owner_ & 1) ? nullptr : reinterpret_cast<Cell*>(owner_);
+  }
   Port* GetPort() const { return port_; }
-  Netlist* GetNetlist() const;                         // the netlist the pin belongs to
-  uint32_t GetVertexId() const { return vertex_id_; }  // 0: not elaborated
-  uint8_t GetDirection() const;                        // of the port
+  Netlist* GetNetlist() const;  // the netlist the pin belongs to
+  // Key of the pin in the timing graph, from 1: leaf pins and top port pins
+  // have one, an inout pin two (this one drives, the next one loads);
+  // hierarchical pins and pins outside the elaborated design have 0.
+  uint32_t GetVertexId() const { return vertex_id_; }
+  uint8_t GetDirection() const;  // of the port
 
   // Stands for a port of the current (top) design.
-  bool IsTopPortPin() const { return (flags_ & kTopPort) != 0; }
+  bool IsTopPortPin() const { return (Flags() & kTopPort) != 0; }
   // Stands for a port of any design, inside that design's netlist.
-  bool IsPortPin() const { return (flags_ & kPortPin) != 0; }
+  bool IsPortPin() const { return (Flags() & kPortPin) != 0; }
   // Drives its net at its own level of hierarchy.
-  bool IsNetDriver() const { return (flags_ & kDriver) != 0; }
+  bool IsNetDriver() const { return (Flags() & kDriver) != 0; }
   // A pin of a hierarchical cell, or a port pin below the top.
-  bool IsHierarchicalPin() const { return (flags_ & kHierarchical) != 0; }
+  bool IsHierarchicalPin() const { return (Flags() & kHierarchical) != 0; }
   // A load pin: not a driver (inout pins are both).
-  bool IsNetLoad() const { return (flags_ & kLoad) != 0; }
+  bool IsNetLoad() const { return (Flags() & kLoad) != 0; }
 
   // Pins one net away: drivers (fan-in) or loads (fan-out) of this pin's
   // net. A pin that only drives (loads) the net is in its own fan-in
@@ -66,13 +72,12 @@ class Pin : public Object {
   // The library pin capacitance (SI farads); 0 for pins without one.
   float Capacitance(const RiseFall* edge, const MinMax* minmax) const;
   // The net whose wire figures belong to this pin: its own net.
-  Net* GetBackwardConn() const { return net_; }
+  Net* GetBackwardConn() const { return GetNet(); }
   // Tied to logic 0 or 1.
   bool IsConst() const;
   // 0 or 1 for a pin on a constant net, -1 otherwise.
   int GetConstValue() const;
 
-  // Building (the netlist builder and linker only).
   enum Flag : uint8_t {
     kTopPort = 1,
     kPortPin = 2,
@@ -80,19 +85,21 @@ class Pin : public Object {
     kLoad = 8,
     kHierarchical = 16,
   };
-  void Init(Port* port, Cell* cell, Netlist* netlist, uint8_t flags);
-  void SetNet(Net* net) { net_ = net; }
-  void SetFlags(uint8_t flags) { flags_ = flags; }
-  uint8_t Flags() const { return flags_; }
-  void SetVertexId(uint32_t id) { vertex_id_ = id; }
+  uint8_t Flags() const { return static_cast<uint8_t>(net_flags_ >> kNetBits); }
 
  private:
-  Net* net_ = nullptr;
-  Cell* cell_ = nullptr;
+  friend class Netlist;
+  friend class NetlistEditor;
+
+  static constexpr uint32_t kNetBits = 27;
+  static constexpr uint32_t kNetMask = (1u << kNetBits) - 1;
+  // Index of the net in the netlist, plus one; 0 when unconnected.
+  uint32_t NetSlot() const { return net_flags_ & kNetMask; }
+
+  uintptr_t owner_ = 0;  // the Cell, or for a port pin the Netlist with bit 0 set
   Port* port_ = nullptr;
-  Netlist* netlist_ = nullptr;  // set for port pins; cell pins ask their cell
+  uint32_t net_flags_ = 0;  // net slot in the low bits, flags in the top five
   uint32_t vertex_id_ = 0;
-  uint8_t flags_ = 0;
 };
 
 }  // namespace cdm

@@ -12,6 +12,7 @@ namespace cdm {
 
 class Design;
 class DesignPortBus;
+class NetlistEditor;
 
 // Directions as the byte `direction` holds them.
 enum PortDirection : uint8_t {
@@ -36,15 +37,18 @@ class Port : public Object {
   Design* GetDesign() const { return design_; }
   uint32_t GetIndex() const { return index_; }
   DesignPortBus* GetBus() const { return bus_; }
+
+  uint8_t direction;  // 0 input, 1 output, 2 inout, 3 internal
+
+ private:
+  friend class Design;
+  friend class NetlistEditor;
   void SetDesign(Design* design, uint32_t index) {
     design_ = design;
     index_ = index;
   }
   void SetBus(DesignPortBus* bus) { bus_ = bus; }
 
-  uint8_t direction;  // 0 input, 1 output, 2 inout, 3 internal
-
- private:
   Design* design_ = nullptr;
   DesignPortBus* bus_ = nullptr;
   uint32_t index_ = 0;

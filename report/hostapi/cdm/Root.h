@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -16,6 +17,7 @@ namespace cdm {
 
 class LibertyLib;
 class Design;
+class Elaboration;
 
 class Root {
  public:
@@ -52,6 +54,10 @@ class Root {
     current_design_ = design;
     NoteChange();
   }
+  // The hierarchy elaborated below the current design: its instances, flat
+  // nets and timing vertices. Null before the first link.
+  Elaboration* GetElaboration() const { return elaboration_.get(); }
+  void SetElaboration(std::unique_ptr<Elaboration> elaboration);
 
   // Counts changes of the netlist, of the libraries it is linked to and of
   // the current design (read, link, current_design, a library replaced).
@@ -70,7 +76,9 @@ class Root {
   LibertyLib* default_liberty_ = nullptr;
   LibertyLib* generic_lib_ = nullptr;
   std::vector<Design*> designs_;
+  std::unordered_map<std::string_view, Design*> design_index_;
   Design* current_design_ = nullptr;
+  std::unique_ptr<Elaboration> elaboration_;
   uint64_t generation_ = 1;
 };
 

@@ -48,9 +48,15 @@ class MinMax {
 // Four values, one for each pair of edge and min/max, each possibly unset.
 class RiseFallMinMax {
  public:
-  bool hasValue(const RiseFall* rf, const MinMax* mm) const { return values_[Slot(rf, mm)].has_value(); }
-  float value(const RiseFall* rf, const MinMax* mm) const { return values_[Slot(rf, mm)].value_or(0.0f); }
-  std::optional<float> Value(const RiseFall* rf, const MinMax* mm) const { return values_[Slot(rf, mm)]; }
+  bool hasValue(const RiseFall* rf, const MinMax* mm) const {
+    return values_[Slot(rf, mm)].has_value();
+  }
+  float value(const RiseFall* rf, const MinMax* mm) const {
+    return values_[Slot(rf, mm)].value_or(0.0f);
+  }
+  std::optional<float> Value(const RiseFall* rf, const MinMax* mm) const {
+    return values_[Slot(rf, mm)];
+  }
   void setValue(const RiseFall* rf, const MinMax* mm, float v) { values_[Slot(rf, mm)] = v; }
   void setValue(const RiseFallBoth* rfb, const MinMax* mm, float v);
   bool empty() const;

@@ -1,11 +1,11 @@
 #include <memory>
 
-#include "support/DesignTestUtil.h"
 #include "db/PathLookup.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DesignIterators.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
+#include "support/DesignTestUtil.h"
 
 namespace {
 
@@ -47,8 +47,9 @@ TEST_F(DesignTest, ModuleUsedTwiceIsOneDesignWithTwoElaboratedCopies) {
   EXPECT_EQ(CellNames(new cdm::DesignCellIterator(top, false, cdm::func<cdm::Cell>)),
             (std::vector<std::string>{"p1", "p2", "g0"}));
   EXPECT_EQ(CellNames(top->CellIter()), (std::vector<std::string>{"p1", "p2", "g0"}));
-  // The definition's own cells stand for the first instance.
-  EXPECT_EQ(CellNames(pass->CellIter()), std::vector<std::string>{"p1/g1"});
+  // The definition is not an instance: its cells carry local names only.
+  EXPECT_EQ(CellNames(pass->CellIter()), std::vector<std::string>{"g1"});
+  EXPECT_NE(pass->FindCell("g1"), cdm::FindCellByPath(top, "p1/g1"));
   cdm::Cell* g1 = cdm::FindCellByPath(top, "p1/g1");
   cdm::Cell* g2 = cdm::FindCellByPath(top, "p2/g1");
   ASSERT_NE(g1, nullptr);
@@ -70,7 +71,8 @@ TEST_F(DesignTest, FlatWalkCrossesHierarchyBothWays) {
   ASSERT_TRUE(a->IsNetDriver());
   std::vector<const cdm::Pin*> loads;
   a->GetFanoutPins(loads, cdm::kHierFlat);
-  EXPECT_EQ(FullNames(loads), (std::vector<std::string>{"p1/g1/A", "p2/g1/A", "y"}));
+  // In creation order: the top's ports, then the cells depth first.
+  EXPECT_EQ(FullNames(loads), (std::vector<std::string>{"y", "p1/g1/A", "p2/g1/A"}));
   std::vector<cdm::Pin*> drivers;
   top->FindPin("y")->GetFaninPins(drivers, cdm::kHierFlat);
   EXPECT_EQ(FullNames(drivers), std::vector<std::string>{"a"});
@@ -98,7 +100,7 @@ TEST_F(DesignTest, NetConnIterAndAllPinIterator) {
   for (cdm::NetConnIter it(m, false, cdm::func<cdm::Pin>); it.HasNext();) flat.push_back(it.Next());
   for (cdm::NetConnIter it(m, true, cdm::func<cdm::Pin>); it.HasNext();)
     with_hier.push_back(it.Next());
-  EXPECT_EQ(FullNames(flat), (std::vector<std::string>{"p1/g1/A", "p2/g1/A", "a", "y"}));
+  EXPECT_EQ(FullNames(flat), (std::vector<std::string>{"a", "y", "p1/g1/A", "p2/g1/A"}));
   // Segments m (p1/o p2/i), a (a p1/i), y (p2/o y), and inside each pass
   // the merged i/o net (two port pins and g1/A).
   EXPECT_EQ(with_hier.size(), 12u);
@@ -124,7 +126,8 @@ TEST_F(DesignTest, CurrentDesignCanMoveDownAndBack) {
   EXPECT_TRUE(pass->FindPin("i")->IsTopPortPin());
   cdm::ElaborateHierarchy(&root_, top);
   EXPECT_FALSE(pass->FindPin("i")->IsTopPortPin());
-  EXPECT_EQ(CellNames(pass->CellIter()), std::vector<std::string>{"p1/g1"});
+  EXPECT_EQ(pass->FindPin("i")->GetVertexId(), 0u);
+  EXPECT_EQ(CellNames(pass->CellIter()), std::vector<std::string>{"g1"});
   EXPECT_NE(cdm::FindCellByPath(top, "p2/g1"), nullptr);
 }
 

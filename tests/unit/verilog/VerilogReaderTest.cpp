@@ -30,11 +30,22 @@ class VerilogReaderTest : public ::testing::Test {
     return names;
   }
   // The net the reader made for a bit of the connection `conn` of cell `cell`.
+  cdm::ConnSource Conn(Design* design, size_t cell, size_t conn) {
+    cdm::ModuleSource::Cursor cursor(design->GetNetlist()->Source());
+    uint32_t line = 0, count = 0;
+    cdm::ConnSource c;
+    for (size_t i = 0; i <= cell; ++i) {
+      EXPECT_TRUE(cursor.NextInstance(line, count));
+      for (uint32_t k = 0; k < count; ++k) {
+        cursor.NextConnection(c, k);
+        if (i == cell && k == conn) return c;
+      }
+    }
+    ADD_FAILURE() << "no connection " << conn << " of cell " << cell;
+    return c;
+  }
   std::vector<int32_t> ConnBits(Design* design, size_t cell, size_t conn) {
-    const cdm::ModuleSource& source = design->GetNetlist()->Source();
-    const cdm::ConnSource& c = source.conns[source.instances[cell].first_conn + conn];
-    return std::vector<int32_t>(source.bits.begin() + c.first_bit,
-                                source.bits.begin() + c.first_bit + c.bit_count);
+    return Conn(design, cell, conn).bits;
   }
   std::string NetName(Design* design, int32_t index) {
     return design->GetNetlist()->Nets()[index].Name();
@@ -106,8 +117,7 @@ TEST_F(VerilogReaderTest, ConnectionsByNameAndPositionWithSelectsAndConcatenatio
   EXPECT_EQ(ConnBits(m, 1, 0).size(), 1u);
   EXPECT_TRUE(ConnBits(m, 1, 1).empty());
   EXPECT_EQ(ConnBits(m, 1, 2).size(), 4u);
-  const cdm::ModuleSource& source = m->GetNetlist()->Source();
-  EXPECT_EQ(source.conns[source.instances[1].first_conn].port, nullptr);
+  EXPECT_EQ(Conn(m, 1, 0).port, nullptr);
   std::unique_ptr<cdm::Iterator<cdm::DesignNetBus>> nets(m->NetBusIter());
   cdm::DesignNetBus* w = nets->Next();
   ASSERT_NE(w, nullptr);
