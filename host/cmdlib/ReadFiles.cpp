@@ -6,8 +6,11 @@
 #include <boost/any.hpp>
 #include <cerrno>
 #include <cstring>
+#include <memory>
 
+#include "cmdlib/Interrupt.h"
 #include "hostapi/cmd/CommonCmd.h"
+#include "msg/Progress.h"
 
 namespace cmdlib {
 namespace {
@@ -24,6 +27,34 @@ std::string Unreadable(const std::string& path) {
     return "cannot open '" + path + "': " + std::strerror(errno);
   return "";
 }
+
+// The file being read through ReadFiles, for the progress line.
+struct CurrentRead {
+  std::string what;  // "Reading FILE", or "" for a small file
+  std::unique_ptr<msg::Progress> progress;
+};
+
+CurrentRead& Current() {
+  static CurrentRead current;
+  return current;
+}
+
+// Names the file being read for the length of one read_one call.
+class ReadScope {
+ public:
+  explicit ReadScope(const std::string& path) {
+    struct stat info;
+    if (msg::Progress::Enabled() && ::stat(path.c_str(), &info) == 0 &&
+        static_cast<size_t>(info.st_size) > kProgressFileSize)
+      Current().what = "Reading " + path;
+  }
+  ~ReadScope() {
+    Current().progress.reset();
+    Current().what.clear();
+  }
+  ReadScope(const ReadScope&) = delete;
+  ReadScope& operator=(const ReadScope&) = delete;
+};
 
 std::string JoinNames(const std::vector<std::string>& files, size_t from, size_t to) {
   std::string text;
@@ -57,6 +88,8 @@ bool ReadFiles(const std::vector<std::string>& files, const ReadOneFile& read_on
     }
   }
   for (size_t i = 0; i < files.size(); ++i) {
+    ThrowIfInterrupted();  // between files too
+    ReadScope scope(files[i]);
     if (read_one(files[i], error)) continue;
     if (i > 0) error += "; read before it: " + JoinNames(files, 0, i);
     if (i + 1 < files.size()) error += "; not read: " + JoinNames(files, i + 1, files.size());
@@ -64,6 +97,14 @@ bool ReadFiles(const std::vector<std::string>& files, const ReadOneFile& read_on
   }
   error.clear();
   return true;
+}
+
+void ReadCheckpoint(size_t offset, size_t total) {
+  ThrowIfInterrupted();
+  CurrentRead& current = Current();
+  if (current.what.empty()) return;
+  if (!current.progress) current.progress = std::make_unique<msg::Progress>(current.what, total);
+  current.progress->Update(offset);
 }
 
 }  // namespace cmdlib

@@ -30,4 +30,12 @@ using ReadOneFile = std::function<bool(const std::string& path, std::string& err
 bool ReadFiles(const std::vector<std::string>& files, const ReadOneFile& read_one,
                std::string& error);
 
+// Readers call this between statements with how far into the file's text
+// they are: it stops the read on Ctrl-C (throws Interrupted, before the
+// reader commits anything) and draws the progress line of a large file.
+void ReadCheckpoint(size_t offset, size_t total);
+
+// Files larger than this show a progress line while they are read.
+constexpr size_t kProgressFileSize = 20u << 20;
+
 }  // namespace cmdlib

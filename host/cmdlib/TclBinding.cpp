@@ -8,6 +8,10 @@
 #include "cmdlib/ArgParser.h"
 #include "cmdlib/CommandState.h"
 #include "cmdlib/CommandTable.h"
+#include "cmdlib/Interrupt.h"
+#include "cmdlib/OutputCapture.h"
+#include "cmdlib/TclCmd.h"
+#include "msg/MessageBook.h"
 
 namespace cmdlib {
 namespace {
@@ -27,26 +31,39 @@ void SetResult(Tcl_Interp* interp, const CommonCmd::State& state) {
   Tcl_SetObjResult(interp, list);
 }
 
-// parse, prevExec, exec when prevExec passed, postExec.
-int RunCommand(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
-  CommonCmd* command = static_cast<CommonCmd*>(data);
-  CommonCmd::State& state = command->state();
-  std::vector<std::string> args;
-  for (int i = 1; i < objc; ++i) args.emplace_back(Tcl_GetString(objv[i]));
+int Error(Tcl_Interp* interp, const std::string& message) {
+  msg::MessageBook::Get().CountError();
+  Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + message).c_str(), -1));
+  return TCL_ERROR;
+}
 
+int Interrupt(Tcl_Interp* interp) {
+  ClearInterrupt();
   FlushOutputs();
+  Tcl_SetObjResult(interp, Tcl_NewStringObj("Interrupted", -1));
+  Tcl_SetErrorCode(interp, "KELVO", "INTERRUPTED", nullptr);
+  return TCL_ERROR;
+}
+
+// parse, prevExec, exec when prevExec passed, postExec.
+// `objects` are the argument objects behind `args`.
+int RunParsed(CommonCmd* command, Tcl_Interp* interp, const std::vector<std::string>& args,
+              Tcl_Obj* const* objects) {
+  CommonCmd::State& state = command->state();
   ParseOutcome outcome = ParseArguments(state, args);
   state.interp = interp;
-  state.call_objects.assign(objv + 1, objv + objc);
-  if (!outcome.ok) {
-    Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + outcome.error).c_str(), -1));
-    return TCL_ERROR;
-  }
+  state.call_objects.assign(objects, objects + args.size());
+  if (!outcome.ok) return Error(interp, outcome.error);
   if (outcome.help) {
     command->printUsage();
     FlushOutputs();
     Tcl_ResetResult(interp);
     return TCL_OK;
+  }
+  if (TclCmd* tcl_command = dynamic_cast<TclCmd*>(command)) {
+    int code = tcl_command->run(interp);
+    FlushOutputs();
+    return code;
   }
   int status = 1;
   try {
@@ -55,30 +72,54 @@ int RunCommand(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const obj
       status = command->exec();
       command->postExec();
     }
+  } catch (const Interrupted&) {
+    return Interrupt(interp);
   } catch (const std::exception& failure) {
     FlushOutputs();
-    std::string message = "Error: " + state.name + ": internal error: " + failure.what();
-    Tcl_SetObjResult(interp, Tcl_NewStringObj(message.c_str(), -1));
-    return TCL_ERROR;
+    return Error(interp, state.name + ": internal error: " + failure.what());
   }
   FlushOutputs();
-  if (state.has_error) {
-    Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + state.error).c_str(), -1));
-    return TCL_ERROR;
+  // A command that stopped at Ctrl-C reports that. One that finished all
+  // the same keeps its result, and the script stops at its next safe point.
+  if (InterruptPending()) {
+    if (status != 0 || state.has_error) return Interrupt(interp);
+    WakeInterrupt();
   }
+  if (state.has_error) return Error(interp, state.error);
   // A report's status is its result and a failed report lets the script go
   // on; a host command that failed without saying why must not pass.
-  if (status != 0 && !command->cmdModule()) {
-    std::string message = "Error: " + state.name + ": failed";
-    Tcl_SetObjResult(interp, Tcl_NewStringObj(message.c_str(), -1));
-    return TCL_ERROR;
-  }
+  if (status != 0 && !command->cmdModule()) return Error(interp, state.name + ": failed");
   if (state.has_result) {
     SetResult(interp, state);
     return TCL_OK;
   }
   Tcl_SetObjResult(interp, Tcl_NewIntObj(status));
   return TCL_OK;
+}
+
+// "command ... > file" and "command ... >> file" are short for redirect.
+int RunCommand(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
+  CommonCmd* command = static_cast<CommonCmd*>(data);
+  std::vector<std::string> args;
+  for (int i = 1; i < objc; ++i) args.emplace_back(Tcl_GetString(objv[i]));
+  FlushOutputs();
+  const size_t n = args.size();
+  if (n < 2 || (args[n - 2] != ">" && args[n - 2] != ">>"))
+    return RunParsed(command, interp, args, objv + 1);
+
+  const std::string target = args[n - 1];
+  const bool append = args[n - 2] == ">>";
+  args.resize(n - 2);
+  OutputCapture capture(false);
+  std::string error;
+  if (!capture.OpenFile(target, append, error)) {
+    capture.Finish();
+    return Error(interp, command->name() + ": " + error);
+  }
+  int code = RunParsed(command, interp, args, objv + 1);
+  if (!capture.Finish() && code == TCL_OK)
+    return Error(interp, command->name() + ": cannot write '" + target + "'");
+  return code;
 }
 
 }  // namespace

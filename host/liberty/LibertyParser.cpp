@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "cmdlib/ReadFiles.h"
 #include "liberty/LibertyTree.h"
 
 namespace liberty {
@@ -271,6 +272,7 @@ class Parser {
           ++p_;
           continue;
         }
+        cmdlib::ReadCheckpoint(static_cast<size_t>(p_ - tree_.buffer.data()), tree_.buffer.size());
         st.children.emplace_back();
         if (!ParseStatement(st.children.back(), depth + 1)) return false;
       }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "hostapi/msg/ResultChannel.h"
+#include "msg/HostMsg.h"
 #include "msg/MsgCatalogue.h"
 
 namespace msg {
@@ -55,10 +56,23 @@ void PopResultSink() {
 
 void WriteResult(std::string_view text) {
   if (Sinks().empty()) {
-    // Text a script wrote with puts must come out first.
+    // Text a script wrote with puts must come out first (when the shell
+    // routes puts through here, nothing waits in Tcl's buffer).
     if (Tcl_Channel tcl_out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(tcl_out);
-    // No flush per line: the command binding flushes when a command ends.
-    std::fwrite(text.data(), 1, text.size(), stdout);
+    WriteScreen(text);
+    return;
+  }
+  Sinks().back()(text);
+}
+
+void WriteScreen(std::string_view text) {
+  // No flush per line: the command binding flushes when a command ends.
+  std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+void WriteText(std::string_view text) {
+  if (Sinks().empty()) {
+    WriteScreen(text);
     return;
   }
   Sinks().back()(text);
@@ -89,18 +103,15 @@ void InsertEmptyLine() {
 
 void ReportMsg(MsgTag tag, ...) {
   const CatalogueEntry* entry = FindCatalogueEntry(tag);
-  std::string body;
-  if (entry) {
-    va_list args;
-    va_start(args, tag);
-    body = FormatV(entry->text, args);
-    va_end(args);
-  } else {
-    body = "message without catalogue text";
+  if (!entry) {
+    IssueComposed(tag, Severity::kError, "message without catalogue text", Location());
+    return;
   }
-  std::string line = std::string(SeverityWord(entry ? entry->severity : Severity::kError)) + ": " +
-                     body + " (" + TagName(tag) + ")\n";
-  WriteResult(line);
+  va_list args;
+  va_start(args, tag);
+  std::string body = FormatV(entry->text, args);
+  va_end(args);
+  IssueComposed(tag, entry->severity, body, Location());
 }
 
 }  // namespace msg

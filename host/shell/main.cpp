@@ -1,32 +1,44 @@
 // kelvo: the Tcl shell that loads the report module.
-//   kelvo SCRIPT [ARGS]   run a script and exit (0 ran to its end, 1 a Tcl error escaped)
-//   kelvo -c "COMMANDS"   the same for a command string
-//   kelvo                 interactive prompt
+//   kelvo [-log FILE] SCRIPT [ARGS]   run a script and exit (0 ran to its end,
+//                                     1 a Tcl error escaped)
+//   kelvo [-log FILE] -c "COMMANDS"   the same for a command string
+//   kelvo [-log FILE]                 interactive prompt
 #include <tcl.h>
 #include <unistd.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
-#include <iostream>
+#include <memory>
 #include <string>
 
 #include "cmdlib/HostCommands.h"
+#include "cmdlib/OutputChannels.h"
 #include "cmdlib/TclBinding.h"
+#include "msg/SessionLog.h"
+#include "shell/AppVars.h"
+#include "shell/Completer.h"
+#include "shell/History.h"
+#include "shell/InterruptHandler.h"
+#include "shell/LineEditor.h"
 #include "shell/ModuleLoader.h"
+#include "shell/Prompt.h"
+#include "shell/ScriptLocation.h"
 #include "shell/ShellCommands.h"
+#include "shell/ShellSettings.h"
+#include "shell/TclReadlineReader.h"
 
 namespace {
 
-constexpr const char* kVersion = "kelvo 0.1.0";
-
 void PrintShellHelp() {
   std::printf(
-      "Usage: kelvo [SCRIPT [ARGS...]] | -c COMMANDS | -version | -help\n"
+      "Usage: kelvo [-log FILE] [SCRIPT [ARGS...] | -c COMMANDS [ARGS...]] | -version | -help\n"
       "  SCRIPT [ARGS]  run a Tcl script, then exit (argv holds ARGS)\n"
       "  -c COMMANDS    run a command string, then exit\n"
+      "  -log FILE      keep everything the session prints in FILE\n"
       "  -version       print the version\n"
       "  -help          print this text\n"
-      "Without arguments kelvo reads commands at the prompt 'kelvo> '.\n"
+      "Without a script kelvo reads commands at the prompt 'kelvo> '.\n"
       "Inside, 'help' lists the commands and 'help CMD' shows one command's usage.\n");
 }
 
@@ -51,78 +63,96 @@ void SetArgv(Tcl_Interp* interp, const char* argv0, int argc, char** argv) {
   Tcl_SetVar2Ex(interp, "argv0", nullptr, Tcl_NewStringObj(argv0, -1), TCL_GLOBAL_ONLY);
 }
 
-int Finish(Tcl_Interp* interp, int status) {
-  cmdlib::FlushOutputs();
-  Tcl_DeleteInterp(interp);
-  return status;
+// The prompt's line reader: tclreadline where it is installed, else the
+// shell's own editor; KELVO_LINE_EDITOR=builtin or tclreadline chooses.
+std::unique_ptr<shell::LineReader> MakeLineReader(Tcl_Interp* interp, bool terminal,
+                                                  std::string& name) {
+  if (!terminal) {
+    name = "none";
+    return std::make_unique<shell::PlainLineReader>();
+  }
+  const char* wanted = std::getenv("KELVO_LINE_EDITOR");
+  const std::string choice = wanted ? wanted : "";
+  if (choice != "builtin") {
+    if (auto reader = shell::TclReadlineReader::Open(interp, shell::Completer(interp),
+                                                     shell::HistoryPath())) {
+      name = "tclreadline";
+      return reader;
+    }
+  }
+  name = "builtin";
+  return std::make_unique<shell::LineEditor>(shell::Completer(interp), shell::HistoryPath());
 }
 
-int RunInteractive(Tcl_Interp* interp) {
-  bool terminal = isatty(STDIN_FILENO);
-  if (terminal) {
-    std::printf("%s, type 'help' for the commands, 'exit' to leave.\n", kVersion);
-    // Line editing where tclreadline is installed.
-    if (Tcl_Eval(interp, "package require tclreadline") == TCL_OK) {
-      Tcl_Eval(interp, "proc ::tclreadline::prompt1 {} { return {kelvo> } }");
-      if (Tcl_Eval(interp, "::tclreadline::Loop") == TCL_OK) return Finish(interp, 0);
-    }
+struct Arguments {
+  std::string log_file;
+  const char* command_string = nullptr;
+  const char* script = nullptr;
+  int rest = 0;  // index of the first script argument
+};
+
+// False with the exit status in `status` when kelvo is to end at once.
+bool ParseArguments(int argc, char** argv, Arguments& args, int& status) {
+  int i = 1;
+  if (i + 1 < argc && std::strcmp(argv[i], "-log") == 0) {
+    args.log_file = argv[i + 1];
+    i += 2;
+  } else if (i < argc && std::strcmp(argv[i], "-log") == 0) {
+    std::fprintf(stderr, "kelvo: -log needs a file name\n");
+    status = 1;
+    return false;
   }
-  std::string command, line;
-  int status = 0;
-  while (true) {
-    if (terminal) {
-      cmdlib::FlushOutputs();
-      std::printf(command.empty() ? "kelvo> " : "> ");
-      std::fflush(stdout);
-    }
-    if (!std::getline(std::cin, line)) break;
-    command += line;
-    command += '\n';
-    if (!Tcl_CommandComplete(command.c_str())) continue;
-    int code = Tcl_RecordAndEval(interp, command.c_str(), 0);
-    command.clear();
-    cmdlib::FlushOutputs();
-    if (code != TCL_OK) {
-      if (terminal) {
-        // At the prompt the message is enough; the trace is in $errorInfo.
-        std::fprintf(stderr, "%s\n", Tcl_GetStringResult(interp));
-        std::fflush(stderr);
-      } else {
-        ReportTclError(interp);
-      }
+  if (i < argc && (!std::strcmp(argv[i], "-version") || !std::strcmp(argv[i], "--version"))) {
+    std::printf("%s\n", shell::kVersion);
+    status = 0;
+    return false;
+  }
+  if (i < argc && (!std::strcmp(argv[i], "-help") || !std::strcmp(argv[i], "--help"))) {
+    PrintShellHelp();
+    status = 0;
+    return false;
+  }
+  if (i < argc && std::strcmp(argv[i], "-c") == 0) {
+    if (i + 1 >= argc) {
+      std::fprintf(stderr, "kelvo: -c needs a command string\n");
       status = 1;
-      continue;
+      return false;
     }
-    const char* result = Tcl_GetStringResult(interp);
-    if (terminal && result[0] != '\0') std::printf("%s\n", result);
+    args.command_string = argv[i + 1];
+    args.rest = i + 2;
+    return true;
   }
-  return Finish(interp, terminal ? 0 : status);
+  // A script name never starts with a dash here; a mistyped option would
+  // otherwise read as a missing script.
+  if (i < argc && argv[i][0] == '-') {
+    std::fprintf(stderr, "kelvo: unknown option '%s' (kelvo -help lists the options)\n", argv[i]);
+    status = 1;
+    return false;
+  }
+  if (i < argc) {
+    args.script = argv[i];
+    args.rest = i + 1;
+  }
+  return true;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc >= 2 &&
-      (std::strcmp(argv[1], "-version") == 0 || std::strcmp(argv[1], "--version") == 0)) {
-    std::printf("%s\n", kVersion);
-    return 0;
-  }
-  if (argc >= 2 && (std::strcmp(argv[1], "-help") == 0 || std::strcmp(argv[1], "--help") == 0)) {
-    PrintShellHelp();
-    return 0;
-  }
-  if (argc >= 2 && std::strcmp(argv[1], "-c") == 0 && argc < 3) {
-    std::fprintf(stderr, "kelvo: -c needs a command string\n");
-    return 1;
-  }
-  // A script name never starts with a dash here; a mistyped option would
-  // otherwise read as a missing script.
-  if (argc >= 2 && argv[1][0] == '-' && std::strcmp(argv[1], "-c") != 0) {
-    std::fprintf(stderr, "kelvo: unknown option '%s' (kelvo -help lists the options)\n", argv[1]);
-    return 1;
-  }
+  Arguments args;
+  int status = 0;
+  if (!ParseArguments(argc, argv, args, status)) return status;
 
+  msg::InstallLogTee();
+  if (!args.log_file.empty()) {
+    std::string error;
+    if (!msg::OpenLog(args.log_file, error)) {
+      std::fprintf(stderr, "kelvo: -log: %s\n", error.c_str());
+      return 1;
+    }
+  }
   Tcl_FindExecutable(argv[0]);
+  cmdlib::InstallOutputChannels();
   Tcl_Interp* interp = Tcl_CreateInterp();
   Tcl_Init(interp);  // without the Tcl script library some Tcl commands are missing
 
@@ -131,31 +161,47 @@ int main(int argc, char** argv) {
   std::string error;
   if (!shell::LoadReportModule(module, error)) {
     std::fprintf(stderr, "kelvo: %s\n", error.c_str());
-    Tcl_DeleteInterp(interp);
-    return 2;
+    std::fflush(stderr);
+    _exit(2);
   }
+  shell::PrepareShellCommands(interp, &module);
   cmdlib::BindCommands(interp);
-  shell::CreateShellCommands(interp, &module);
+  shell::FinishShellCommands(interp);
+  shell::InstallScriptLocation(interp);
+  shell::InstallInterruptHandler(interp);
 
-  if (argc >= 3 && std::strcmp(argv[1], "-c") == 0) {
-    SetArgv(interp, argv[0], argc - 3, argv + 3);
+  const bool interactive = !args.script && !args.command_string;
+  const bool terminal = interactive && isatty(STDIN_FILENO);
+  std::string editor_name = "none";
+  std::unique_ptr<shell::LineReader> reader;
+  if (interactive) reader = MakeLineReader(interp, terminal, editor_name);
+  shell::DefineShellSettings(args.log_file, editor_name);
+  shell::AppVars::Get().Install(interp);
+  shell::Session::Get().before_exit = [&reader] {
+    if (reader) reader->Finish();
+  };
+
+  if (args.command_string) {
+    SetArgv(interp, argv[0], argc - args.rest, argv + args.rest);
     Tcl_SetVar(interp, "tcl_interactive", "0", TCL_GLOBAL_ONLY);
-    if (Tcl_Eval(interp, argv[2]) != TCL_OK) {
+    if (Tcl_Eval(interp, args.command_string) != TCL_OK) {
       ReportTclError(interp, true);
-      return Finish(interp, 1);
+      shell::ExitShell(1);
     }
-    return Finish(interp, 0);
+    shell::ExitShell(0);
   }
-  if (argc >= 2) {
-    SetArgv(interp, argv[1], argc - 2, argv + 2);
+  if (args.script) {
+    SetArgv(interp, args.script, argc - args.rest, argv + args.rest);
     Tcl_SetVar(interp, "tcl_interactive", "0", TCL_GLOBAL_ONLY);
-    if (Tcl_EvalFile(interp, argv[1]) != TCL_OK) {
+    if (Tcl_EvalFile(interp, args.script) != TCL_OK) {
       ReportTclError(interp);
-      return Finish(interp, 1);
+      shell::ExitShell(1);
     }
-    return Finish(interp, 0);
+    shell::ExitShell(0);
   }
-  Tcl_SetVar(interp, "tcl_interactive", isatty(STDIN_FILENO) ? "1" : "0", TCL_GLOBAL_ONLY);
+  Tcl_SetVar(interp, "tcl_interactive", terminal ? "1" : "0", TCL_GLOBAL_ONLY);
   SetArgv(interp, argv[0], 0, nullptr);
-  return RunInteractive(interp);
+  if (terminal)
+    std::printf("%s, type 'help' for the commands, 'exit' to leave.\n", shell::kVersion);
+  shell::ExitShell(shell::RunPrompt(interp, *reader, terminal));
 }

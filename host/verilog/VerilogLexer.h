@@ -38,6 +38,9 @@ class VerilogLexer {
   // The next token without taking it.
   const Token& Peek();
   uint32_t Line() const { return line_; }
+  // How far into the buffer the lexer is, of how much.
+  size_t Offset() const { return pos_; }
+  size_t Size() const { return buffer_.size(); }
 
  private:
   Token Scan();

@@ -3,6 +3,8 @@
 #include <cctype>
 #include <cstdlib>
 
+#include "cmdlib/ReadFiles.h"
+
 namespace verilog {
 namespace {
 
@@ -357,6 +359,7 @@ bool VerilogParser::ParseModule(const std::vector<AttrAst>& attrs) {
   if (!sink_.BeginModule(header)) return SinkFail(name.line);
   std::vector<AttrAst> item_attrs;
   for (;;) {
+    cmdlib::ReadCheckpoint(lexer_.Offset(), lexer_.Size());
     if (!ParseAttributes(item_attrs)) return false;
     Token token = lexer_.Next();
     if (token.IsWord("endmodule")) {

@@ -15,5 +15,10 @@ void PopResultSink();
 
 // Writes raw text to the current sink (standard output when none is pushed).
 void WriteResult(std::string_view text);
+// The same without first flushing Tcl's standard output: for text that
+// comes from that channel itself.
+void WriteText(std::string_view text);
+// Standard output itself, whatever sink is pushed.
+void WriteScreen(std::string_view text);
 
 }  // namespace msg
