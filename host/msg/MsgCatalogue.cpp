@@ -7,6 +7,8 @@ const CatalogueEntry kCatalogue[] = {
     {COMMAND_001, Severity::kError, "%s: %s"},
     {COMMAND_010, Severity::kError, "option '-%s' cannot be used together with option '-%s'."},
     {COMMON_001, Severity::kWarning, "Cannot find object '%s' in design '%s'."},
+    {DATABASE_001, Severity::kWarning, "%s"},
+    {QUERY_001, Severity::kWarning, "No %s matched '%s'"},
     {Report_001, Severity::kInfo, "%s: option '%s' is accepted and ignored by this tool."},
     {Report_002, Severity::kWarning, "Cannot find port '%s' in design '%s'."},
     {SDC_003, Severity::kWarning, "Dropped %s on %s '%s': it no longer exists in design '%s'."},

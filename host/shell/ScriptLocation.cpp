@@ -1,5 +1,6 @@
 #include "shell/ScriptLocation.h"
 
+#include <map>
 #include <vector>
 
 #include "msg/HostMsg.h"
@@ -13,6 +14,20 @@ struct EchoedFile {
   int frame_level = 0;  // Tcl's frame depth when the file began
 };
 
+std::map<std::string, std::string>& GivenNames() {
+  static std::map<std::string, std::string> names;  // Tcl's name to the given one
+  return names;
+}
+
+std::string Normalized(const std::string& path) {
+  Tcl_Obj* given = Tcl_NewStringObj(path.c_str(), -1);
+  Tcl_IncrRefCount(given);
+  Tcl_Obj* normal = Tcl_FSGetNormalizedPath(nullptr, given);
+  std::string name = normal ? Tcl_GetString(normal) : path;
+  Tcl_DecrRefCount(given);
+  return name;
+}
+
 std::vector<EchoedFile>& Echoed() {
   static std::vector<EchoedFile> files;
   return files;
@@ -21,12 +36,15 @@ std::vector<EchoedFile>& Echoed() {
 // The innermost frame deeper than `above` that comes from a file, as
 // {file line}; empty when none.
 const char* kFindFrame =
-    "::apply {{above} {"
-    "  for {set l [info frame]} {$l > $above} {incr l -1} {"
-    "    set f [info frame $l]"
-    "    if {[dict exists $f file] && [dict exists $f line]} {"
-    "      return [list [dict get $f file] [dict get $f line]] } }"
-    "  return {} }}";
+    "::apply {{above} {\n"
+    "  for {set l [info frame]} {$l > $above} {incr l -1} {\n"
+    "    set f [info frame $l]\n"
+    "    if {[dict exists $f file] && [dict exists $f line]} {\n"
+    "      return [list [dict get $f file] [dict get $f line]]\n"
+    "    }\n"
+    "  }\n"
+    "  return {}\n"
+    "}}";
 
 bool FindLocation(Tcl_Interp* interp, msg::Location& where) {
   const int above = Echoed().empty() ? 0 : Echoed().back().frame_level;
@@ -41,6 +59,8 @@ bool FindLocation(Tcl_Interp* interp, msg::Location& where) {
     if (Tcl_ListObjGetElements(nullptr, result, &count, &items) == TCL_OK && count == 2 &&
         Tcl_GetIntFromObj(nullptr, items[1], &line) == TCL_OK) {
       where.file = Tcl_GetString(items[0]);
+      auto given = GivenNames().find(where.file);
+      if (given != GivenNames().end()) where.file = given->second;
       where.line = line;
       found = true;
     }
@@ -64,6 +84,10 @@ int FrameLevel(Tcl_Interp* interp) {
 }
 
 }  // namespace
+
+void RememberScriptName(const std::string& given) {
+  GivenNames()[Normalized(given)] = given;
+}
 
 void InstallScriptLocation(Tcl_Interp* interp) {
   msg::SetLocationFinder([interp](msg::Location& where) { return FindLocation(interp, where); });

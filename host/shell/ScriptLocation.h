@@ -12,6 +12,10 @@ namespace shell {
 // Gives the message layer its way of finding the script's file and line.
 void InstallScriptLocation(Tcl_Interp* interp);
 
+// Messages name a script as it was given (kelvo SCRIPT, source FILE), not
+// by the absolute name Tcl keeps.
+void RememberScriptName(const std::string& given);
+
 // source -echo runs a file command by command; it says where each is.
 class EchoedFileScope {
  public:

@@ -26,6 +26,7 @@ class SourceCmd : public cmdlib::TclCmd {
     if (getOptionCount("file") == 0) return Fail(interp, "expected a file name");
     const std::string file = StringOption("file");
     const std::string encoding = StringOption("encoding");
+    RememberScriptName(file);
     if (!FlagOption("echo") && !FlagOption("verbose")) return PlainSource(interp, file, encoding);
     std::string text;
     if (!ReadScript(interp, file, encoding, text)) return TCL_ERROR;

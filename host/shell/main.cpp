@@ -192,6 +192,7 @@ int main(int argc, char** argv) {
   }
   if (args.script) {
     SetArgv(interp, args.script, argc - args.rest, argv + args.rest);
+    shell::RememberScriptName(args.script);
     Tcl_SetVar(interp, "tcl_interactive", "0", TCL_GLOBAL_ONLY);
     if (Tcl_EvalFile(interp, args.script) != TCL_OK) {
       ReportTclError(interp);

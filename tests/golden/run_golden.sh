@@ -6,6 +6,9 @@
 set -u
 kelvo=$1 script=$2 expected=$3
 mask() { sed -E 's/^(Date *:).*$/\1 <date>/'; }
+# The script is named relative to the data folder, so that the file names
+# that messages quote are the same in every clone.
+script=$(realpath --relative-to=. "$script")
 actual=$("$kelvo" "$script" 2>/dev/null; echo "exit: $?")
 if diff -u <(mask <"$expected") <(printf '%s\n' "$actual" | mask); then
   exit 0
