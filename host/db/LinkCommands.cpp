@@ -10,6 +10,7 @@
 #include "hostapi/cdm/Root.h"
 #include "hostapi/cmd/CommonCmd.h"
 #include "hostapi/msg/Msg.h"
+#include "msg/HostMsg.h"
 
 namespace {
 
@@ -21,7 +22,11 @@ int LinkAndReport(CommonCmd& cmd, cdm::Design* design) {
     cmd.SetTclError(cmd.name() + ": " + error);
     return 1;
   }
-  for (const std::string& warning : warnings) msg::Print_Result("%s", warning.c_str());
+  for (const std::string& warning : warnings) {
+    const std::string kSeverity = "Warning: ";
+    const bool marked = warning.compare(0, kSeverity.size(), kSeverity) == 0;
+    msg::HostMsg(DATABASE_001, {marked ? warning.substr(kSeverity.size()) : warning});
+  }
   cmd.SetTclResult(design->Name());
   return 0;
 }

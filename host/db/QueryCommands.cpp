@@ -11,6 +11,7 @@
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cmd/CommonCmd.h"
 #include "hostapi/msg/Msg.h"
+#include "msg/HostMsg.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ class QueryCmd : public CommonCmd {
       size_t before = names.size();
       Find(design, pattern, hierarchical, names);
       if (names.size() == before && !all && !getOptionValue("quiet"))
-        msg::Print_Result("Warning: No %s objects matched '%s'", kind_, pattern.c_str());
+        msg::HostMsg(QUERY_001, {kind_, pattern});
     }
     SetTclResultList(std::move(names));
     return 0;
