@@ -11,7 +11,7 @@
 namespace cdm {
 
 bool LibEditor::Fail(const Statement& st, const std::string& what) {
-  if (error_.empty()) error_ = file_ + ", line " + std::to_string(st.line) + ": " + what;
+  if (error_.empty()) error_ = file_ + ":" + std::to_string(st.line) + ": " + what;
   return false;
 }
 

@@ -40,7 +40,7 @@ class Parser {
 
  private:
   bool Fail(const std::string& what, std::string& error) {
-    error = file_ + ", line " + std::to_string(line_) + ": " + what;
+    error = file_ + ":" + std::to_string(line_) + ": " + what;
     return false;
   }
   bool Error(std::string what) {

@@ -81,7 +81,7 @@ TEST(CellDetail, ScalingGroupsOnCells) {
   cdm::Root root2;
   auto bad = Parse(root2, Wrap("  cell(S) { scaling_factors : nowhere; }\n"));
   EXPECT_FALSE(bad.lib);
-  EXPECT_NE(bad.error.find("line 5: unknown scaling_factors group 'nowhere'"), std::string::npos)
+  EXPECT_NE(bad.error.find(":5: unknown scaling_factors group 'nowhere'"), std::string::npos)
       << bad.error;
 }
 
@@ -117,7 +117,7 @@ TEST(CellDetail, BanksLatchesAndBadGroups) {
   cdm::Root root2;
   auto bad = Parse(root2, Wrap("  cell(F) { ff(IQ, IQN) { clocked_on : \"IQ\"; } }\n"));
   EXPECT_FALSE(bad.lib);
-  EXPECT_NE(bad.error.find("line 5: expected 'next_state' in ff group"), std::string::npos)
+  EXPECT_NE(bad.error.find(":5: expected 'next_state' in ff group"), std::string::npos)
       << bad.error;
 }
 
@@ -161,7 +161,7 @@ TEST(CellDetail, BusNamingStyleAndEnumerationErrors) {
     cdm::Root root;
     auto parsed = Parse(root, Wrap(c.first));
     EXPECT_FALSE(parsed.lib) << c.first;
-    EXPECT_NE(parsed.error.find("t.lib, line 5: " + c.second), std::string::npos) << parsed.error;
+    EXPECT_NE(parsed.error.find("t.lib:5: " + c.second), std::string::npos) << parsed.error;
   }
 }
 

@@ -130,7 +130,7 @@ TEST(Model, StateTableErrors) {
         Parse(root, Wrap("  cell(S) {\n    pin(D) { direction : input; }\n" + c.first + "  }\n"));
     EXPECT_FALSE(parsed.lib);
     EXPECT_NE(parsed.error.find(c.second), std::string::npos) << parsed.error;
-    EXPECT_NE(parsed.error.find("t.lib, line 7:"), std::string::npos) << parsed.error;
+    EXPECT_NE(parsed.error.find("t.lib:7:"), std::string::npos) << parsed.error;
   }
 }
 

@@ -203,7 +203,7 @@ TEST(RealLibrary, ReplacingOnlyOnSuccessAndMissingFiles) {
   const std::string broken = ::testing::TempDir() + "/broken.lib";
   std::ofstream(broken) << "library(yosys_cells) {\n cell(X) { area : oops; }\n}\n";
   EXPECT_FALSE(liberty::ReadLibertyFile(&root, broken, error));
-  EXPECT_NE(error.find("broken.lib, line 2: expected a number for 'area', found 'oops'"),
+  EXPECT_NE(error.find("broken.lib:2: expected a number for 'area', found 'oops'"),
             std::string::npos)
       << error;
   EXPECT_EQ(root.GetLibertyLib("yosys_cells"), first);
