@@ -16,6 +16,7 @@
 #include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
+#include "hostapi/cmd/Interrupt.h"
 #include "hostapi/msg/Msg.h"
 
 float ComputeInstanceArea(cdm::Cell* cell) {
@@ -219,6 +220,7 @@ int ReportCellCmd::exec() {
   std::vector<int> widths(5, 0);
   std::vector<std::vector<std::string>> rows;
   for (cdm::Cell* cell : cells) {
+    if (common::InterruptRequested()) return 1;  // Ctrl-C: stop between cells
     if (listing) {
       PrintConnections(cell, verbose, out);
       PrintResultAndEmpty(out);
