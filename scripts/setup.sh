@@ -1,20 +1,45 @@
 #!/usr/bin/env bash
 # Installs from Debian's packages what building and testing kelvo needs,
-# and does nothing when all of it is there.
+# and does nothing when all of it is there. tcl-tclreadline (line editing at
+# the prompt through GNU readline) is installed where Debian has it; without
+# it the shell uses its own line editor.
 set -euo pipefail
 
 packages=(g++ cmake make tcl-dev libboost-dev zlib1g-dev libgtest-dev libbenchmark-dev python3)
+optional=(tcl-tclreadline)
+
+installed() {
+  dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q "install ok installed"
+}
+
 missing=()
 for package in "${packages[@]}"; do
-  if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then
-    missing+=("$package")
-  fi
+  installed "$package" || missing+=("$package")
 done
-if [ "${#missing[@]}" -eq 0 ]; then
+missing_optional=()
+for package in "${optional[@]}"; do
+  installed "$package" || missing_optional+=("$package")
+done
+if [ "${#missing[@]}" -eq 0 ] && [ "${#missing_optional[@]}" -eq 0 ]; then
   exit 0
 fi
-echo "setup: installing ${missing[*]}"
 sudo=""
 if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
-$sudo apt-get update -qq
-DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${missing[@]}"
+export DEBIAN_FRONTEND=noninteractive
+updated=0
+if [ "${#missing[@]}" -ne 0 ]; then
+  echo "setup: installing ${missing[*]}"
+  $sudo apt-get update -qq
+  updated=1
+  $sudo apt-get install -y -qq "${missing[@]}"
+fi
+for package in "${missing_optional[@]}"; do
+  if [ "$updated" -eq 0 ]; then
+    $sudo apt-get update -qq || true
+    updated=1
+  fi
+  if apt-cache show "$package" >/dev/null 2>&1; then
+    echo "setup: installing $package"
+    $sudo apt-get install -y -qq "$package" || echo "setup: $package not installed; the shell's own line editor serves"
+  fi
+done

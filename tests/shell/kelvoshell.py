@@ -13,7 +13,8 @@ import tempfile
 import time
 import unittest
 
-KELVO = None  # set by main() from the command line
+# The executable under test: the first argument of the test script.
+KELVO = os.path.abspath(sys.argv.pop(1)) if len(sys.argv) > 1 else None
 DATA = os.path.normpath(os.path.join(os.path.dirname(__file__), "..", "data"))
 
 
@@ -135,6 +136,4 @@ class Terminal:
 
 
 def main():
-    global KELVO
-    KELVO = os.path.abspath(sys.argv.pop(1))
     unittest.main(verbosity=2)
