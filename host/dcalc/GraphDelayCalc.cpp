@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <memory>
 
 #include "dcalc/DelayCalcInputs.h"
 #include "dcalc/TableLookup.h"
@@ -10,6 +11,7 @@
 #include "hostapi/cdm/LibPort.h"
 #include "hostapi/cdm/LibTiming.h"
 #include "hostapi/cdm/Pin.h"
+#include "msg/Progress.h"
 
 namespace sta {
 namespace {
@@ -74,7 +76,16 @@ void GraphDelayCalc::Run(TimingGraph& graph, const ArcDelayCalc& calc,
   std::fill(arc_values_.begin(), arc_values_.end(), 0.0f);
   drive_delays_.clear();
   graph.ClearSlews();
-  for (uint32_t v : graph.LevelOrder()) VertexSlews(graph, v);
+  // An update over more than a million vertices shows its progress.
+  const std::vector<uint32_t>& order = graph.LevelOrder();
+  std::unique_ptr<msg::Progress> progress;
+  if (order.size() > 1000000)
+    progress = std::make_unique<msg::Progress>("Updating timing", order.size());
+  size_t done = 0;
+  for (uint32_t v : order) {
+    VertexSlews(graph, v);
+    if (progress && (++done & 4095) == 0) progress->Update(done);
+  }
   const std::vector<Edge>& edges = graph.Edges();
   for (uint32_t e = 0; e < edges.size(); ++e) {
     if (IsCheck(edges[e].role) && !inputs.EdgeDisabled(e)) CheckMargins(graph, e);
