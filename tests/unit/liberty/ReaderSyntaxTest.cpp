@@ -179,6 +179,22 @@ TEST(ReaderSyntax, UnitsDefaultWhenOmitted) {
   EXPECT_EQ(units.time.asString(2.5e-9, 3), "2.500");
 }
 
+// A fan-out the table skips lies on the line between its neighbours; past
+// the last entry the slope goes on; below the first the first entry holds.
+TEST(ReaderSyntax, WireLoadLengthBetweenAndBeyondTheTable) {
+  cdm::Root root;
+  auto parsed = Parse(root, Wrap("  wire_load(w) { resistance : 1; capacitance : 1; slope : 10; "
+                                 "fanout_length(2, 1); fanout_length(5, 7); }\n"));
+  ASSERT_TRUE(parsed.lib) << parsed.error;
+  const cdm::WireLoad* wire_load = parsed.lib->GetWireLoad("w");
+  ASSERT_TRUE(wire_load);
+  EXPECT_FLOAT_EQ(wire_load->LengthFor(3), 3.0f);
+  EXPECT_FLOAT_EQ(wire_load->LengthFor(4), 5.0f);
+  EXPECT_FLOAT_EQ(wire_load->LengthFor(5), 7.0f);
+  EXPECT_FLOAT_EQ(wire_load->LengthFor(7), 27.0f);
+  EXPECT_FLOAT_EQ(wire_load->LengthFor(1), 1.0f);
+}
+
 TEST(ReaderSyntax, TemplatesTablesAndModels) {
   cdm::Root root;
   auto parsed = Parse(
