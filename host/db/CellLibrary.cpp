@@ -13,6 +13,8 @@
 #include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
+#include "hostapi/sta/SdcMain.h"
+#include "hostapi/sta/SdcMgr.h"
 
 namespace cdm {
 namespace {
@@ -71,12 +73,17 @@ std::vector<Pin*> Pin::GetOutputInputPins(bool through_sequential) const {
 }
 
 void Net::NetCapAndRes(const OperatingConditions*, float& wire_cap, float& resistance,
-                       const MinMax*, HierarchyMode) const {
+                       const MinMax* minmax, HierarchyMode) const {
   wire_cap = 0.0f;
   resistance = 0.0f;
-  LibertyLib* lib = DbManager::GetDefaultLiberty();
-  const WireLoad* wire_load = lib ? lib->GetDefaultWireLoad() : nullptr;
-  if (!wire_load) return;
+  // The model in force: set_wire_load_model (or the selection by area),
+  // else the default library's default_wire_load.
+  const WireLoad* wire_load = sta::sdc::SdcMain::getOrCreateSdcMgr(nullptr)->getWireLoadModel(
+      minmax ? minmax : MinMax::max_);
+  LibertyLib* lib =
+      wire_load && wire_load->library ? wire_load->library : DbManager::GetDefaultLiberty();
+  if (!wire_load) wire_load = lib ? lib->GetDefaultWireLoad() : nullptr;
+  if (!wire_load || !lib) return;
   int fanout = FlatLoadCount(this);
   if (fanout == 0) return;
   float length = wire_load->LengthFor(fanout);
