@@ -5,7 +5,5 @@
 // One line each, so that a body that lands removes exactly one line.
 // clang-format off
 
-int ReportNetFanoutCmd::exec() { return 1; }
 int ReportPortCmd::exec() { return 1; }
-int ReportNetFanoutCmd::postExec() { return 0; }
 // clang-format on

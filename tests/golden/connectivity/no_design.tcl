@@ -2,3 +2,5 @@
 puts "status: [get_fanin_pins x]"
 puts "status: [get_fanout_pins x]"
 puts "status: [report_buffer_tree -net x]"
+puts "status: [report_net]"
+puts "status: [report_net_fanout]"

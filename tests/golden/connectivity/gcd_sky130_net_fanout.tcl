@@ -1,0 +1,7 @@
+# report_net_fanout over gcd and sky130hd: the clock port's net and the
+# root clock net with their pins. A type text longer than its column runs
+# into the net name, as the fixed format has it.
+read_liberty sky130hd_tt.lib.gz
+read_verilog gcd_sky130hd.v
+link_design gcd
+report_net_fanout -connections {clk clknet_0_clk}
