@@ -3,6 +3,7 @@
 #include <tcl.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <string_view>
 
@@ -34,11 +35,24 @@ int OutputStderr(ClientData, const char* buffer, int length, int*) {
 
 void WatchNone(ClientData, int) {}
 
-int HandleNone(ClientData, int, ClientData*) {
-  return TCL_ERROR;
+// The descriptor behind the channel, for `exec ... >@stdout`: such a
+// program writes to the terminal straight, past any capture.
+int HandleStdout(ClientData, int direction, ClientData* handle) {
+  if (direction != TCL_WRITABLE) return TCL_ERROR;
+  std::fflush(stdout);
+  *handle = reinterpret_cast<ClientData>(static_cast<intptr_t>(1));
+  return TCL_OK;
 }
 
-Tcl_ChannelType MakeType(const char* name, Tcl_DriverOutputProc* output) {
+int HandleStderr(ClientData, int direction, ClientData* handle) {
+  if (direction != TCL_WRITABLE) return TCL_ERROR;
+  std::fflush(stderr);
+  *handle = reinterpret_cast<ClientData>(static_cast<intptr_t>(2));
+  return TCL_OK;
+}
+
+Tcl_ChannelType MakeType(const char* name, Tcl_DriverOutputProc* output,
+                         Tcl_DriverGetHandleProc* handle) {
   Tcl_ChannelType type{};
   type.typeName = name;
   type.version = TCL_CHANNEL_VERSION_5;
@@ -46,12 +60,12 @@ Tcl_ChannelType MakeType(const char* name, Tcl_DriverOutputProc* output) {
   type.inputProc = InputNone;
   type.outputProc = output;
   type.watchProc = WatchNone;
-  type.getHandleProc = HandleNone;
+  type.getHandleProc = handle;
   return type;
 }
 
-Tcl_ChannelType stdout_type = MakeType("kelvo_stdout", OutputStdout);
-Tcl_ChannelType stderr_type = MakeType("kelvo_stderr", OutputStderr);
+Tcl_ChannelType stdout_type = MakeType("kelvo_stdout", OutputStdout, HandleStdout);
+Tcl_ChannelType stderr_type = MakeType("kelvo_stderr", OutputStderr, HandleStderr);
 
 void Install(Tcl_ChannelType* type, const char* name, int which) {
   Tcl_Channel channel = Tcl_CreateChannel(type, name, nullptr, TCL_WRITABLE);
