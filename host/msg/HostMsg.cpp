@@ -54,10 +54,6 @@ void SetMessagesToStderr(bool on) {
   to_stderr = on;
 }
 
-bool MessagesToStderr() {
-  return to_stderr;
-}
-
 void IssueComposed(MsgTag tag, Severity severity, const std::string& text, Location where) {
   MessageBook::Verdict verdict = MessageBook::Get().Record(tag, severity);
   if (verdict == MessageBook::Verdict::kHide) return;

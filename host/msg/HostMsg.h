@@ -36,6 +36,5 @@ void SetLocationFinder(LocationFinder finder);
 // Warnings and errors go to standard error as well (and still to the result
 // channel and the log).
 void SetMessagesToStderr(bool on);
-bool MessagesToStderr();
 
 }  // namespace msg

@@ -26,7 +26,6 @@ class Progress {
   void Update(uint64_t done) {
     if (shown_ && done >= next_check_) Draw(done);
   }
-  bool Shown() const { return shown_; }
 
   // Whether progress lines are shown at all (the terminal test aside).
   static void Enable(bool on);

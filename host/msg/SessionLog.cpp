@@ -12,7 +12,6 @@ namespace {
 
 struct Log {
   std::FILE* file = nullptr;
-  std::string path;
   ~Log() {
     if (file) std::fclose(file);
   }
@@ -65,7 +64,6 @@ bool OpenLog(const std::string& path, std::string& error) {
   }
   CloseLog();
   TheLog().file = file;
-  TheLog().path = path;
   return true;
 }
 
@@ -73,11 +71,6 @@ void CloseLog() {
   Log& log = TheLog();
   if (log.file) std::fclose(log.file);
   log.file = nullptr;
-  log.path.clear();
-}
-
-const std::string& LogPath() {
-  return TheLog().path;
 }
 
 void LogText(std::string_view text) {

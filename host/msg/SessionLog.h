@@ -18,7 +18,6 @@ void InstallLogTee();
 // any, then goes on.
 bool OpenLog(const std::string& path, std::string& error);
 void CloseLog();
-const std::string& LogPath();  // "" when there is no log
 void LogText(std::string_view text);
 
 }  // namespace msg

@@ -70,13 +70,6 @@ bool AppVars::Set(Tcl_Interp* interp, const std::string& name, const std::string
   return true;
 }
 
-void AppVars::Show(Tcl_Interp* interp, const std::string& name, const std::string& value) {
-  AppVar* var = Find(name);
-  if (!var) return;
-  var->value = value;
-  Tcl_SetVar(interp, name.c_str(), value.c_str(), TCL_GLOBAL_ONLY);
-}
-
 bool ParseBool(const std::string& text, bool& value) {
   int flag = 0;
   if (Tcl_GetBoolean(nullptr, text.c_str(), &flag) != TCL_OK) return false;

@@ -34,8 +34,6 @@ class AppVars {
   // Sets through the Tcl variable, so that the trace checks it.
   bool Set(Tcl_Interp* interp, const std::string& name, const std::string& value,
            std::string& error);
-  // Changes the value shown, without applying it (for read-only ones).
-  void Show(Tcl_Interp* interp, const std::string& name, const std::string& value);
 
  private:
   std::vector<AppVar> vars_;

@@ -16,7 +16,6 @@ constexpr const char* kVersion = "kelvo 0.1.0";
 struct Session {
   static Session& Get();
   const LoadedModule* module = nullptr;  // its help listing
-  std::string line_editor = "none";      // which editor the prompt uses
   std::function<void()> before_exit;     // saves the history, ends the log
 };
 
