@@ -4,6 +4,7 @@
 #include <limits>
 #include <memory>
 
+#include "cmdlib/Interrupt.h"
 #include "dcalc/DelayCalcInputs.h"
 #include "dcalc/TableLookup.h"
 #include "graph/TimingGraph.h"
@@ -76,15 +77,21 @@ void GraphDelayCalc::Run(TimingGraph& graph, const ArcDelayCalc& calc,
   std::fill(arc_values_.begin(), arc_values_.end(), 0.0f);
   drive_delays_.clear();
   graph.ClearSlews();
-  // An update over more than a million vertices shows its progress.
+  // An update over more than a million vertices shows its progress. Ctrl-C
+  // stops it every 4096 vertices; the slews are then partial, and the timer,
+  // which counts the update as not done, computes them all again next time.
   const std::vector<uint32_t>& order = graph.LevelOrder();
   std::unique_ptr<msg::Progress> progress;
   if (order.size() > 1000000)
     progress = std::make_unique<msg::Progress>("Updating timing", order.size());
   size_t done = 0;
   for (uint32_t v : order) {
+    if ((done & 4095) == 0) {
+      cmdlib::ThrowIfInterrupted();
+      if (progress) progress->Update(done);
+    }
     VertexSlews(graph, v);
-    if (progress && (++done & 4095) == 0) progress->Update(done);
+    ++done;
   }
   const std::vector<Edge>& edges = graph.Edges();
   for (uint32_t e = 0; e < edges.size(); ++e) {

@@ -1,6 +1,7 @@
 // The face the reports reach the timer through.
 #include <gtest/gtest.h>
 
+#include "cmdlib/Interrupt.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Root.h"
 #include "hostapi/sta/Graph.h"
@@ -43,6 +44,25 @@ endmodule)");
   EXPECT_EQ(graph->vertex(graph->vertexCount() + 1), nullptr);
   // Slews read 0 until timing is updated.
   EXPECT_EQ(graph->slew(vertex, cdm::RiseFall::rise_, cdm::MinMax::max_->index()), 0.0f);
+  face.timer()->Update(false);
+  EXPECT_NEAR(graph->slew(vertex, cdm::RiseFall::rise_, 1) * 1e9, 0.05, 1e-6);
+}
+
+// Ctrl-C during an update stops it; the update counts as not done, and the
+// next one computes every slew again.
+TEST_F(StaFaceTest, InterruptedUpdateIsDoneAgainNextTime) {
+  Load(R"(module top(in, out);
+  input in; output out;
+  BUF u1(.A(in), .Z(out));
+endmodule)");
+  sta::Sta face(&root_);
+  sta::Graph* graph = face.ensureGraph();
+  ASSERT_NE(graph, nullptr);
+  const sta::Vertex* vertex = graph->vertex(Id("u1/Z"));
+  cmdlib::RequestInterrupt();
+  EXPECT_THROW(face.timer()->Update(false), cmdlib::Interrupted);
+  cmdlib::ClearInterrupt();
+  EXPECT_EQ(graph->slew(vertex, cdm::RiseFall::rise_, 1), 0.0f);
   face.timer()->Update(false);
   EXPECT_NEAR(graph->slew(vertex, cdm::RiseFall::rise_, 1) * 1e9, 0.05, 1e-6);
 }
