@@ -20,6 +20,7 @@
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
 #include "hostapi/cdm/Port.h"
+#include "hostapi/cmd/Interrupt.h"
 #include "hostapi/msg/Msg.h"
 #include "hostapi/sta/Graph.h"
 #include "hostapi/sta/SdcMain.h"
@@ -171,6 +172,7 @@ int ReportNetCmd::exec() {
   int max_fanin = 0;
 
   for (const auto& [name, net] : nets) {
+    if (common::InterruptRequested()) return 1;  // Ctrl-C: stop between nets
     std::vector<cdm::Pin*> drivers;
     std::vector<cdm::Pin*> loads;
     if (!noflat) {

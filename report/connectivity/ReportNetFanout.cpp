@@ -22,6 +22,7 @@
 #include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
+#include "hostapi/cmd/Interrupt.h"
 #include "hostapi/msg/Msg.h"
 #include "hostapi/sta/SdcMain.h"
 #include "hostapi/sta/SdcMgr.h"
@@ -240,6 +241,7 @@ int ReportNetFanoutCmd::exec() {
   int net_width = 4;
   int pin_width = 18;
   for (const auto& [net, constant] : nets) {
+    if (common::InterruptRequested()) return 1;  // Ctrl-C: stop between nets
     std::vector<cdm::Pin*> net_fanout;
     net->GetFanoutPins(net_fanout, cdm::kHierFlat);
     if (net_fanout.empty()) continue;
