@@ -236,7 +236,6 @@ int ReportNetFanoutCmd::exec() {
 
   const int max_depth = depth_option != 0 ? depth_option : 100;
   const bool keep_loads = verbose || connections;
-  std::unordered_set<const cdm::Pin*> multi_drivers;
   std::vector<FanoutRow> rows;
   int net_width = 4;
   int pin_width = 18;
@@ -253,7 +252,6 @@ int ReportNetFanoutCmd::exec() {
       if (pin->IsHierarchicalPin() && !tree) continue;
       (pin->IsNetDriver() ? drivers : loads).push_back(pin);
     }
-    if (drivers.size() > 1) multi_drivers.insert(drivers.begin(), drivers.end());
 
     float rise = 0.0f;
     float fall = 0.0f;
