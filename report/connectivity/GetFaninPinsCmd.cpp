@@ -6,18 +6,28 @@
 #include <vector>
 
 #include "cmd/TclCmd.h"
+#include "connectivity/WalkPath.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
+#include "hostapi/cmd/Interrupt.h"
 #include "hostapi/msg/Msg.h"
 
+namespace {
+
+// The inputs the walk has gone back through, from the root on.
+WalkPath path;
+
+}  // namespace
+
 // Prints the cone behind `pin`, one stage of net a call. `current_level`
-// counts the stages printed so far; the walk ends when it reaches `level`.
+// counts the stages printed so far; the walk ends when it reaches `level`,
+// and a branch ends where it meets an input of its own path (a loop).
 void DisplayFaninTree(int current_level, int const& level, cdm::Pin const* pin,
                       std::string indent) {
-  if (level == current_level) return;
+  if (level == current_level || common::InterruptRequested()) return;
   indent += "    ";
   std::vector<const cdm::Pin*> fanin;
   pin->GetFaninPins(fanin, cdm::kHierFlat);
@@ -36,7 +46,8 @@ void DisplayFaninTree(int current_level, int const& level, cdm::Pin const* pin,
     }
     for (const cdm::Pin* q : inputs) {
       msg::Print_Result("%s%s <- %s", indent.c_str(), name.c_str(), q->GetFullName().c_str());
-      DisplayFaninTree(next, level, q, indent);
+      WalkPath::Step step(path, q);
+      if (step.Entered()) DisplayFaninTree(next, level, q, indent);
     }
   }
 }
@@ -58,6 +69,7 @@ int GetFaninPinsCmd::exec() {
       start = net->GetCurrentDriverPin();
     }
     msg::Print_Result("root:%s", object.c_str());
+    WalkPath::Step root(path, start);
     // A net without a driver pin (undriven, or tied to a constant) has
     // nothing behind it: the net's own drivers are asked, and there are none.
     std::vector<const cdm::Pin*> fanin;
@@ -82,11 +94,13 @@ int GetFaninPinsCmd::exec() {
       }
       for (const cdm::Pin* q : inputs) {
         msg::Print_Result("%s%s <- %s", indent.c_str(), name.c_str(), q->GetFullName().c_str());
-        DisplayFaninTree(c, level, q, indent);
+        WalkPath::Step step(path, q);
+        if (step.Entered()) DisplayFaninTree(c, level, q, indent);
       }
       c = 0;
     }
     msg::InsertEmptyLine();
+    if (common::InterruptRequested()) return 1;  // Ctrl-C: stop between objects
   }
   return 0;
 }

@@ -7,17 +7,27 @@
 #include <vector>
 
 #include "cmd/TclCmd.h"
+#include "connectivity/WalkPath.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
+#include "hostapi/cmd/Interrupt.h"
 #include "hostapi/msg/Msg.h"
 
+namespace {
+
+// The outputs the walk has gone forward through, from the root on.
+WalkPath path;
+
+}  // namespace
+
 // Prints the cone ahead of `pin`, one stage of net a call. `current_level`
-// counts the stages printed so far; the walk ends when it reaches `level`.
+// counts the stages printed so far; the walk ends when it reaches `level`,
+// and a branch ends where it meets an output of its own path (a loop).
 void DisPlayFanoutTree(int current_level, int const& level, cdm::Pin* pin, std::string indent) {
-  if (level == current_level) return;
+  if (level == current_level || common::InterruptRequested()) return;
   indent += "    ";
   std::vector<cdm::Pin*> fanout;
   pin->GetFanoutPins(fanout, cdm::kHierFlat);
@@ -31,7 +41,8 @@ void DisPlayFanoutTree(int current_level, int const& level, cdm::Pin* pin, std::
       continue;
     }
     msg::Print_Result("%s%s -> %s", indent.c_str(), name.c_str(), q->GetFullName().c_str());
-    DisPlayFanoutTree(next, level, q, indent);
+    WalkPath::Step step(path, q);
+    if (step.Entered()) DisPlayFanoutTree(next, level, q, indent);
   }
 }
 
@@ -53,6 +64,7 @@ int GetFanoutPinsCmd::exec() {
       start = net->GetCurrentDriverPin();
     }
     msg::Print_Result("root:%s", object.c_str());
+    WalkPath::Step root(path, start);
     // A net without a driver pin (undriven, or tied to a constant) still
     // has its loads: the net itself is asked for them.
     std::vector<cdm::Pin*> fanout;
@@ -68,9 +80,11 @@ int GetFanoutPinsCmd::exec() {
         continue;
       }
       msg::Print_Result("%s%s -> %s", indent.c_str(), name.c_str(), q->GetFullName().c_str());
-      DisPlayFanoutTree(1, level, q, indent);
+      WalkPath::Step step(path, q);
+      if (step.Entered()) DisPlayFanoutTree(1, level, q, indent);
     }
     msg::InsertEmptyLine();
+    if (common::InterruptRequested()) return 1;  // Ctrl-C: stop between objects
   }
   return 0;
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cmd/TclCmd.h"
+#include "connectivity/WalkPath.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
@@ -17,6 +18,7 @@
 #include "hostapi/cdm/LibPort.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
+#include "hostapi/cmd/Interrupt.h"
 #include "hostapi/msg/Msg.h"
 
 std::string GetTime() {
@@ -51,6 +53,9 @@ bool IsDriver(cdm::Pin const* pin) {
 
 namespace {
 
+// The drivers the walk has gone through, from the root on.
+WalkPath path;
+
 // The reference a driver's line names: its cell's, or for a top-level
 // port the current design, which the port belongs to.
 const cdm::Reference* DriverReference(const cdm::Pin* pin) {
@@ -77,8 +82,11 @@ void PrintNoDriver(const std::string& name, const cdm::Design* design) {
 
 }  // namespace
 
+// A driver met again on its own path closes a loop of buffers: its line is
+// printed and the walk does not go round the loop again.
 void PrintBufferTree(cdm::Pin* pin, bool has_depth, bool hierarchy, bool connections,
                      unsigned long depth, unsigned long level, cdm::HierarchyMode mode) {
+  if (common::InterruptRequested()) return;
   const std::string indent(2 * level, ' ');
   const cdm::Reference* parent_ref = DriverReference(pin);
   const std::string parent = parent_ref ? parent_ref->GetRefText() : std::string();
@@ -107,7 +115,9 @@ void PrintBufferTree(cdm::Pin* pin, bool has_depth, bool hierarchy, bool connect
                            "):" + q->GetFullName() + "(" + cell->GetRef()->GetRefText() + ")";
         if (connections) line += NetText(q);
         msg::Print_Result("%s", line.c_str());
-        PrintBufferTree(q, has_depth, hierarchy, connections, depth, level + 1, mode);
+        WalkPath::Step step(path, q);
+        if (step.Entered())
+          PrintBufferTree(q, has_depth, hierarchy, connections, depth, level + 1, mode);
       }
     }
   }
@@ -153,7 +163,9 @@ int ReportBufferTreeCmd::exec() {
         root_name = driver->GetFullName();
       }
       PrintRootLine(driver, root_name, connections);
+      WalkPath::Step root(path, driver);
       PrintBufferTree(driver, has_depth, hierarchy, connections, bound, 1, mode);
+      if (common::InterruptRequested()) return 1;  // Ctrl-C: stop between trees
     }
   } else if (nets) {
     for (const std::string& name : *nets) {
@@ -169,7 +181,9 @@ int ReportBufferTreeCmd::exec() {
         continue;
       }
       PrintRootLine(driver, driver->GetFullName(), connections);
+      WalkPath::Step root(path, driver);
       PrintBufferTree(driver, has_depth, hierarchy, connections, bound, 1, mode);
+      if (common::InterruptRequested()) return 1;  // Ctrl-C: stop between trees
     }
   }
   return 0;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "cmd/TclCmd.h"
+#include "connectivity/WalkPath.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
@@ -33,6 +34,10 @@ namespace {
 // Loads already counted in this run: through buffers a pin counts once,
 // whichever net reaches it first. postExec empties it.
 std::unordered_set<const cdm::Pin*> visit;
+
+// The buffer inputs the walk through a tree has gone through: a loop of
+// buffers ends where it comes round.
+WalkPath path;
 
 struct PinEntry {
   std::string name;
@@ -124,6 +129,8 @@ void LoadPinsThroughBufTree(std::pair<std::vector<cdm::Pin*>, std::vector<cdm::P
   const cdm::LibCell* lib_cell = port ? port->GetLibCell() : nullptr;
   const cdm::Cell* cell = pin->GetCell();
   if (lib_cell && cell && max_depth != 0 && (lib_cell->IsBuffer() || lib_cell->IsInverter())) {
+    WalkPath::Step step(path, pin);
+    if (!step.Entered()) return;
     const cdm::Pin* output = nullptr;
     std::unique_ptr<cdm::Iterator<cdm::Pin>> pins(cell->PinIter());
     while (!output && pins->HasNext()) {
