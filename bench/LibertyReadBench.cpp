@@ -14,6 +14,7 @@
 
 #include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Root.h"
+#include "io/FileLoader.h"
 #include "liberty/LibertyReader.h"
 #include "liberty/LibertyTree.h"
 
@@ -103,7 +104,7 @@ int main(int argc, char** argv) {
   for (const std::string& file : files) {
     std::string text;
     std::string error;
-    if (!liberty::ReadFileToBuffer(file, text, error)) {
+    if (!io::LoadFile(file, text, error)) {
       std::printf("%s\n", error.c_str());
       ok = false;
       continue;

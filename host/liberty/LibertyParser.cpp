@@ -4,6 +4,7 @@
 
 #include "cmdlib/ReadFiles.h"
 #include "liberty/LibertyTree.h"
+#include "msg/SafeText.h"
 
 namespace liberty {
 
@@ -40,7 +41,7 @@ class Parser {
 
  private:
   bool Fail(const std::string& what, std::string& error) {
-    error = file_ + ":" + std::to_string(line_) + ": " + what;
+    error = file_ + ":" + std::to_string(line_) + ": " + msg::CutQuotes(what);
     return false;
   }
   bool Error(std::string what) {
@@ -83,7 +84,7 @@ class Parser {
         ++p_;
       } else if (c == '/' && p_ + 1 < end_ && p_[1] == '*') {
         const char* start = p_;
-        const int start_line = line_;
+        const uint32_t start_line = line_;
         p_ += 2;
         while (p_ + 1 < end_ && !(p_[0] == '*' && p_[1] == '/')) {
           if (*p_ == '\n') ++line_;
@@ -132,7 +133,7 @@ class Parser {
   }
 
   bool ReadQuoted(LibValue& value) {
-    const int start_line = line_;
+    const uint32_t start_line = line_;
     const char* start = ++p_;
     bool continued = false;
     while (p_ < end_ && *p_ != '"') {
@@ -180,7 +181,7 @@ class Parser {
     last_word_ = nullptr;
     for (;;) {
       const char* save = p_;
-      const int save_line = line_;
+      const uint32_t save_line = line_;
       while (p_ < end_ && (*p_ == ' ' || *p_ == '\t')) ++p_;
       if (p_ < end_ && IsWordChar(*p_) && !(*p_ == '\\' && IsContinuation(p_))) {
         last_word_ = p_;
@@ -256,7 +257,7 @@ class Parser {
     if (p_ < end_ && *p_ == '{') {
       ++p_;
       st.kind = LibStatement::Kind::kGroup;
-      const int open_line = st.line;
+      const uint32_t open_line = st.line;
       for (;;) {
         SkipBlank();
         if (p_ == end_) {
@@ -290,8 +291,8 @@ class Parser {
   const std::string& file_;
   const char* p_;
   const char* end_;
-  int line_ = 1;
-  int unterminated_comment_line_ = 0;
+  uint32_t line_ = 1;  // wraps, harmlessly, past 2^32 lines
+  uint32_t unterminated_comment_line_ = 0;
   const char* last_word_ = nullptr;  // start of the last word of a value of several
   std::string error_;
 };

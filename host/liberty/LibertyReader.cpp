@@ -1,7 +1,10 @@
 #include "liberty/LibertyReader.h"
 
+#include <new>
+
 #include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Root.h"
+#include "io/FileLoader.h"
 #include "liberty/LibEditor.h"
 #include "liberty/LibertyTree.h"
 
@@ -17,11 +20,17 @@ std::unique_ptr<cdm::LibertyLib> ParseLiberty(cdm::Root* root, std::string text,
 }
 
 cdm::LibertyLib* ReadLibertyFile(cdm::Root* root, const std::string& path, std::string& error) {
-  std::string text;
-  if (!ReadFileToBuffer(path, text, error)) return nullptr;
-  std::unique_ptr<cdm::LibertyLib> lib = ParseLiberty(root, std::move(text), path, error);
-  if (!lib) return nullptr;
-  return root->AddLibertyLib(std::move(lib));
+  try {
+    std::string text;
+    if (!io::LoadFile(path, text, error)) return nullptr;
+    std::unique_ptr<cdm::LibertyLib> lib = ParseLiberty(root, std::move(text), path, error);
+    if (!lib) return nullptr;
+    return root->AddLibertyLib(std::move(lib));
+  } catch (const std::bad_alloc&) {
+    // Everything read so far is freed by now; the root was not touched.
+    error = "out of memory while reading '" + path + "'; no library was added";
+    return nullptr;
+  }
 }
 
 }  // namespace liberty

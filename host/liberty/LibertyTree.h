@@ -2,6 +2,7 @@
 // attributes, with line numbers, and no meaning attached yet.
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -24,7 +25,7 @@ struct LibStatement {
   std::string_view name;
   std::vector<LibValue> values;
   std::vector<LibStatement> children;  // groups only
-  int line = 0;
+  uint32_t line = 0;
 
   bool IsGroup() const { return kind == Kind::kGroup; }
   // The first value's text, empty when there is none.
@@ -42,9 +43,5 @@ struct LibTree {
 // Parses `tree.buffer`, already filled. On a syntax error returns false and
 // sets `error` to "<file>, line <n>: <what was expected>".
 bool ParseLibertyText(LibTree& tree, const std::string& file_name, std::string& error);
-
-// Reads `path`, plain or gzip-compressed, into `buffer`; false with a
-// message when the file cannot be read.
-bool ReadFileToBuffer(const std::string& path, std::string& buffer, std::string& error);
 
 }  // namespace liberty

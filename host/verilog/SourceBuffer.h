@@ -1,12 +1,13 @@
-// A whole source file in memory, gunzipped when it is compressed.
+// A whole source file in memory, as the host's file loader gives it (plain
+// or gzip, from a file or a pipe; see io/FileLoader.h).
 #pragma once
 
 #include <string>
 
 namespace verilog {
 
-// Reads `path` (plain or gzip) into `text`. False with `error` set when the
-// file cannot be opened or its compressed stream is damaged.
+// Reads `path` into `text`. False with `error` set when the file cannot be
+// opened or read, or its compressed stream is damaged.
 bool ReadSourceFile(const std::string& path, std::string& text, std::string& error);
 
 }  // namespace verilog

@@ -1,5 +1,8 @@
 #include "verilog/VerilogReader.h"
 
+#include <new>
+
+#include "msg/SafeText.h"
 #include "verilog/NetlistBuilder.h"
 #include "verilog/SourceBuffer.h"
 #include "verilog/VerilogLexer.h"
@@ -14,7 +17,8 @@ bool ReadVerilogText(cdm::Root* root, const std::string& text, const std::string
   VerilogParser parser(lexer, builder);
   ParseError parse_error;
   if (!parser.Parse(parse_error)) {
-    error = file_name + ":" + std::to_string(parse_error.line) + ": " + parse_error.message;
+    error = file_name + ":" + std::to_string(parse_error.line) + ": " +
+            msg::CutQuotes(parse_error.message);
     return false;
   }
   modules = builder.Commit();
@@ -27,9 +31,15 @@ bool ReadVerilogText(cdm::Root* root, const std::string& text, const std::string
 
 bool ReadVerilogFile(cdm::Root* root, const std::string& path, std::vector<std::string>& modules,
                      std::string& error) {
-  std::string text;
-  if (!ReadSourceFile(path, text, error)) return false;
-  return ReadVerilogText(root, text, path, modules, error);
+  try {
+    std::string text;
+    if (!ReadSourceFile(path, text, error)) return false;
+    return ReadVerilogText(root, text, path, modules, error);
+  } catch (const std::bad_alloc&) {
+    // The modules are added only once all of the file is read.
+    error = "out of memory while reading '" + path + "'; no module was added";
+    return false;
+  }
 }
 
 }  // namespace verilog

@@ -287,7 +287,7 @@ TEST_F(VerilogReaderTest, ReadsFilesPlainAndGzipped) {
   EXPECT_NE(root_.FindDesign("g"), nullptr);
   EXPECT_NE(root_.FindDesign("h"), nullptr);
   EXPECT_FALSE(verilog::ReadVerilogFile(&root_, "/no/such/file.v", modules, error));
-  EXPECT_NE(error.find("cannot open file '/no/such/file.v'"), std::string::npos) << error;
+  EXPECT_NE(error.find("cannot open '/no/such/file.v'"), std::string::npos) << error;
 }
 
 TEST_F(VerilogReaderTest, DamagedGzipIsAnError) {

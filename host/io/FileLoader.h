@@ -1,0 +1,42 @@
+// Loads one input file whole into memory for a reader. Every reader of the
+// host (Liberty, Verilog, and the readers that come later) takes its text
+// from here, so that they all accept the same files and refuse the same
+// ones with the same messages.
+//
+// Accepted: a regular file, a pipe, a FIFO or a character device
+// (/dev/stdin), plain or gzip-compressed (several members one after the
+// other, zero bytes after the last). Refused, each with a message that names
+// the file: a missing or unreadable file, a directory, a compressed stream
+// that is cut short, damaged or followed by other data, a file that shrank
+// while it was read, a NUL byte (with its line), and more text than the
+// input limit.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace io {
+
+// The most bytes of text (after decompression) one file may hold, unless the
+// environment variable KELVO_MAX_INPUT_BYTES says otherwise.
+constexpr uint64_t kDefaultMaxInputBytes = uint64_t{4} << 30;
+
+struct LoadOptions {
+  // The most bytes of text taken from the file; 0 means the input limit.
+  uint64_t max_bytes = 0;
+  // Refuse a NUL byte, which no text format holds.
+  bool text_only = true;
+};
+
+// The input limit in force: KELVO_MAX_INPUT_BYTES when set (a number of
+// bytes, with an optional suffix K, M or G for powers of 1024), else
+// kDefaultMaxInputBytes. False with `error` set when the variable holds
+// something else.
+bool MaxInputBytes(uint64_t& limit, std::string& error);
+
+// Reads all of `path` into `text`. False with `error` set ("cannot open
+// '<path>': ...", "cannot read '<path>': ...") and `text` empty on failure.
+bool LoadFile(const std::string& path, std::string& text, std::string& error,
+              const LoadOptions& options = LoadOptions());
+
+}  // namespace io
