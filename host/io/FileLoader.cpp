@@ -218,6 +218,19 @@ bool MaxInputBytes(uint64_t& limit, std::string& error) {
   return true;
 }
 
+bool CheckFile(const std::string& path, std::string& error) {
+  struct stat status;
+  if (::stat(path.c_str(), &status) != 0 || ::access(path.c_str(), R_OK) != 0) {
+    error = "cannot open '" + path + "': " + std::strerror(errno);
+    return false;
+  }
+  if (S_ISDIR(status.st_mode)) {
+    error = "cannot read '" + path + "': it is a directory";
+    return false;
+  }
+  return true;
+}
+
 bool LoadFile(const std::string& path, std::string& text, std::string& error,
               const LoadOptions& options) {
   text.clear();

@@ -34,6 +34,11 @@ struct LoadOptions {
 // something else.
 bool MaxInputBytes(uint64_t& limit, std::string& error);
 
+// Whether `path` can be loaded at all, without opening it (so that a FIFO
+// is left for the read): false with the same message LoadFile would give
+// for a missing or unreadable file or a directory.
+bool CheckFile(const std::string& path, std::string& error);
+
 // Reads all of `path` into `text`. False with `error` set ("cannot open
 // '<path>': ...", "cannot read '<path>': ...") and `text` empty on failure.
 bool LoadFile(const std::string& path, std::string& text, std::string& error,

@@ -127,6 +127,17 @@ TEST(FileLoader, MissingFilesAndDirectoriesAreNamed) {
   Loaded directory = Load(::testing::TempDir());
   EXPECT_FALSE(directory.ok);
   EXPECT_EQ(directory.error, "cannot read '" + ::testing::TempDir() + "': it is a directory");
+  // Checked without a read, with the same words; a FIFO is not opened.
+  std::string error;
+  EXPECT_FALSE(io::CheckFile(TempPath("no_such_file.v"), error));
+  EXPECT_EQ(error, missing.error);
+  EXPECT_FALSE(io::CheckFile(::testing::TempDir(), error));
+  EXPECT_EQ(error, directory.error);
+  const std::string fifo = TempPath("check_fifo");
+  std::remove(fifo.c_str());
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  EXPECT_TRUE(io::CheckFile(fifo, error)) << error;
+  std::remove(fifo.c_str());
 }
 
 TEST(FileLoader, NulBytesAreRefusedWithTheirLine) {
