@@ -1,15 +1,13 @@
 #include "cmdlib/ReadFiles.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <boost/any.hpp>
-#include <cerrno>
-#include <cstring>
 #include <memory>
 
 #include "cmdlib/Interrupt.h"
 #include "hostapi/cmd/CommonCmd.h"
+#include "io/FileLoader.h"
 #include "msg/Progress.h"
 
 namespace cmdlib {
@@ -17,15 +15,11 @@ namespace {
 
 constexpr const char* kFileOption = "file_names";
 
-// Why `path` cannot be read at all, or "" when it looks readable.
+// Why `path` cannot be read at all, or "" when it looks readable: the file
+// loader's own words.
 std::string Unreadable(const std::string& path) {
-  struct stat info;
-  if (::stat(path.c_str(), &info) != 0)
-    return "cannot open '" + path + "': " + std::strerror(errno);
-  if (S_ISDIR(info.st_mode)) return "cannot read '" + path + "': it is a folder";
-  if (::access(path.c_str(), R_OK) != 0)
-    return "cannot open '" + path + "': " + std::strerror(errno);
-  return "";
+  std::string error;
+  return io::CheckFile(path, error) ? std::string() : error;
 }
 
 // The file being read through ReadFiles, for the progress line.

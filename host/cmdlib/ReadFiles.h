@@ -23,7 +23,7 @@ std::vector<std::string> GivenFiles(CommonCmd& command);
 using ReadOneFile = std::function<bool(const std::string& path, std::string& error)>;
 
 // Reads `files` in order with `read_one`. Every file is first checked to
-// exist and not to be a folder, so that a misspelt third name reads nothing
+// exist and not to be a directory, so that a misspelt third name reads nothing
 // at all. A file that then fails stops the read there: the files before it
 // stay read, the ones after it are not read, and `error` says both. False
 // also for an empty list.

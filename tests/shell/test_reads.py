@@ -70,7 +70,7 @@ class ManyFiles(unittest.TestCase):
             "catch {read_liberty .} m1\nputs $m1\n"
             "catch {read_liberty [glob -nocomplain *.none]} m2\nputs $m2\n")
         self.assertEqual(status, 0, err)
-        self.assertIn("cannot read '.': it is a folder", out)
+        self.assertIn("cannot read '.': it is a directory", out)
         self.assertIn("read_liberty: no file given", out)
 
     def test_file_name_with_blank_is_one_file(self):
