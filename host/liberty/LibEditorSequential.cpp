@@ -1,5 +1,6 @@
 // ff / latch groups and state tables.
 #include <cctype>
+#include <cstdint>
 
 #include "liberty/LibEditor.h"
 
@@ -167,8 +168,14 @@ bool LibEditor::StateTableGroup(LibCell* cell, const Statement& st) {
   table->SetUsedInternalPortsIndex(used);
   const size_t input_bits = inputs + table->doubled_inputs.size();
   const size_t bits = input_bits + internals;
-  // Beyond 2^20 rows the table is kept unexpanded.
-  if (bits <= 20) {
+  // Beyond 2^20 rows the table is kept unexpanded, and so is a table whose
+  // unfolding would take more than kMaxExpandedTexts texts of memory or
+  // kMaxExpansionTests row tests of time (twenty internal pins, or a table
+  // of thousands of rows).
+  constexpr uint64_t kMaxExpandedTexts = uint64_t{1} << 22;
+  constexpr uint64_t kMaxExpansionTests = uint64_t{1} << 28;
+  if (bits <= 20 && (uint64_t{internals} << bits) <= kMaxExpandedTexts &&
+      (uint64_t{rows.size()} << bits) <= kMaxExpansionTests) {
     table->expanded_rows.assign(size_t{1} << bits, std::vector<std::string>(internals, "X"));
     for (size_t index = 0; index < table->expanded_rows.size(); ++index) {
       // Read the bits: inputs from the most significant end, a doubled
