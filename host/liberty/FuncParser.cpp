@@ -53,76 +53,103 @@ class FuncParser {
            (IsNameChar(text_[pos_]) || text_[pos_] == '(' || text_[pos_] == '!');
   }
 
+  // Joins `operands` (two or more) with `op` as a balanced tree, left to
+  // right, so that a long chain (A & B & C ...) stays shallow for whatever
+  // walks the tree recursively. The three operators are associative.
+  int Chain(Op op, std::vector<int>& operands) {
+    while (operands.size() > 1) {
+      size_t out = 0;
+      for (size_t i = 0; i + 1 < operands.size(); i += 2)
+        operands[out++] = Add(op, operands[i], operands[i + 1]);
+      if (operands.size() % 2) operands[out++] = operands.back();
+      operands.resize(out);
+    }
+    return operands[0];
+  }
+
   int ParseOr() {
-    int left = ParseXor();
+    int first = ParseXor();
+    std::vector<int> operands;
     for (;;) {
-      if (left < 0) return -1;
+      if (first < 0) return -1;
       SkipBlank();
       if (pos_ < text_.size() && (text_[pos_] == '|' || text_[pos_] == '+')) {
         ++pos_;
-        int right = ParseXor();
-        if (right < 0) return -1;
-        left = Add(Op::kOr, left, right);
+        int next = ParseXor();
+        if (next < 0) return -1;
+        if (operands.empty()) operands.push_back(first);
+        operands.push_back(next);
       } else {
-        return left;
+        return operands.empty() ? first : Chain(Op::kOr, operands);
       }
     }
   }
   int ParseXor() {
-    int left = ParseAnd();
+    int first = ParseAnd();
+    std::vector<int> operands;
     for (;;) {
-      if (left < 0) return -1;
+      if (first < 0) return -1;
       SkipBlank();
       if (pos_ < text_.size() && text_[pos_] == '^') {
         ++pos_;
-        int right = ParseAnd();
-        if (right < 0) return -1;
-        left = Add(Op::kXor, left, right);
+        int next = ParseAnd();
+        if (next < 0) return -1;
+        if (operands.empty()) operands.push_back(first);
+        operands.push_back(next);
       } else {
-        return left;
+        return operands.empty() ? first : Chain(Op::kXor, operands);
       }
     }
   }
   int ParseAnd() {
-    int left = ParseUnary();
+    int first = ParseUnary();
+    std::vector<int> operands;
     for (;;) {
-      if (left < 0) return -1;
+      if (first < 0) return -1;
       SkipBlank();
       if (pos_ < text_.size() && (text_[pos_] == '&' || text_[pos_] == '*')) {
         ++pos_;
       } else if (!StartsOperand()) {
-        return left;
+        return operands.empty() ? first : Chain(Op::kAnd, operands);
       }
-      int right = ParseUnary();
-      if (right < 0) return -1;
-      left = Add(Op::kAnd, left, right);
+      int next = ParseUnary();
+      if (next < 0) return -1;
+      if (operands.empty()) operands.push_back(first);
+      operands.push_back(next);
     }
   }
+  // Prefix '!' and postfix '\'' in any number: an even count cancels out, so
+  // a long run neither recurses nor deepens the tree.
   int ParseUnary() {
-    SkipBlank();
-    if (pos_ < text_.size() && text_[pos_] == '!') {
+    size_t nots = 0;
+    for (;;) {
+      SkipBlank();
+      if (pos_ >= text_.size() || text_[pos_] != '!') break;
       ++pos_;
-      int operand = ParseUnary();
-      return operand < 0 ? -1 : Add(Op::kNot, operand, -1);
+      ++nots;
     }
     int operand = ParseAtom();
-    while (operand >= 0) {
+    if (operand < 0) return -1;
+    for (;;) {
       SkipBlank();
-      if (pos_ < text_.size() && text_[pos_] == '\'') {
-        ++pos_;
-        operand = Add(Op::kNot, operand, -1);
-      } else {
-        break;
-      }
+      if (pos_ >= text_.size() || text_[pos_] != '\'') break;
+      ++pos_;
+      ++nots;
     }
-    return operand;
+    return nots % 2 ? Add(Op::kNot, operand, -1) : operand;
   }
   int ParseAtom() {
     SkipBlank();
     if (pos_ >= text_.size()) return Fail("expected a pin, a constant or '(' at the end");
     if (text_[pos_] == '(') {
+      if (nesting_ == kMaxFunctionNesting) {
+        return Fail("parentheses nested too deeply (more than " +
+                    std::to_string(kMaxFunctionNesting) + " levels)");
+      }
       ++pos_;
+      ++nesting_;
       int inner = ParseOr();
+      --nesting_;
       if (inner < 0) return -1;
       SkipBlank();
       if (pos_ >= text_.size() || text_[pos_] != ')') return Fail("expected ')'");
@@ -145,6 +172,7 @@ class FuncParser {
   const PortLookup& lookup_;
   std::vector<Node> nodes_;
   size_t pos_ = 0;
+  int nesting_ = 0;  // parentheses open around pos_
   std::string error_;
 };
 

@@ -11,6 +11,11 @@
 
 namespace liberty {
 
+// The deepest nesting of parentheses a function may have; a real library
+// needs a handful. Beyond it the function is refused, so that neither the
+// parser nor anything that walks the function runs out of stack.
+constexpr int kMaxFunctionNesting = 256;
+
 using PortLookup = std::function<cdm::LibPort*(std::string_view name)>;
 
 // False with `error` set ("unknown pin 'X'", "expected ')'", ...) when the

@@ -1,16 +1,25 @@
 #include "hostapi/cdm/LibBoolFuncExpr.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace cdm {
 
 LibBoolFuncExpr::LibBoolFuncExpr(std::string text, std::vector<Node> nodes, int root)
     : text_(std::move(text)), nodes_(std::move(nodes)), root_(root) {
+  // A short list is searched; a long one (a hostile file's) is hashed, so
+  // that many pins cost no quadratic time.
+  constexpr size_t kSearched = 32;
+  std::unordered_set<const LibPort*> seen;
   for (const Node& node : nodes_) {
-    if (node.op == Op::kPort &&
-        std::find(ports_.begin(), ports_.end(), node.port) == ports_.end()) {
-      ports_.push_back(node.port);
-    }
+    if (node.op != Op::kPort) continue;
+    const bool known = ports_.size() < kSearched
+                           ? std::find(ports_.begin(), ports_.end(), node.port) != ports_.end()
+                           : seen.count(node.port) > 0;
+    if (known) continue;
+    ports_.push_back(node.port);
+    if (ports_.size() == kSearched) seen.insert(ports_.begin(), ports_.end());
+    if (ports_.size() > kSearched) seen.insert(node.port);
   }
 }
 

@@ -7,11 +7,12 @@
 #include <cstring>
 
 #include "hostapi/cdm/Root.h"
+#include "msg/SafeText.h"
 
 namespace cdm {
 
 bool LibEditor::Fail(const Statement& st, const std::string& what) {
-  if (error_.empty()) error_ = file_ + ":" + std::to_string(st.line) + ": " + what;
+  if (error_.empty()) error_ = file_ + ":" + std::to_string(st.line) + ": " + msg::CutQuotes(what);
   return false;
 }
 
@@ -118,6 +119,21 @@ bool LibEditor::Number(const Statement& st, float& value, size_t index) {
     return Fail(st, "expected a number for '" + std::string(st.name) + "', found '" +
                         std::string(text) + "'");
   }
+  return true;
+}
+
+bool LibEditor::Integer(const Statement& st, int& value, int low, int high, size_t index) {
+  float number = 0.0f;
+  if (!Number(st, number, index)) return false;
+  // Compared as a float before any conversion: an out-of-range float has no
+  // integer value to convert to.
+  if (!(number >= static_cast<float>(low) && number <= static_cast<float>(high)) ||
+      number != std::floor(number)) {
+    return Fail(st, "expected a whole number from " + std::to_string(low) + " to " +
+                        std::to_string(high) + " for '" + std::string(st.name) + "', found '" +
+                        std::string(st.values[index].text) + "'");
+  }
+  value = static_cast<int>(number);
   return true;
 }
 

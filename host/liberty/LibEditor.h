@@ -2,6 +2,7 @@
 // fills a LibertyLib. One handler per group kind; values are stored in SI.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -24,6 +25,10 @@ class LibEditor {
 
  private:
   using Statement = liberty::LibStatement;
+  // The most bits of a bus or members of a bank, and bus members of all the
+  // buses of a library: a line of text must not become gigabytes of ports.
+  static constexpr int kMaxBusWidth = 65536;
+  static constexpr int64_t kMaxBusMembers = int64_t{1} << 20;
   struct BusType {
     int from = 0;
     int to = 0;
@@ -31,6 +36,8 @@ class LibEditor {
 
   bool Fail(const Statement& st, const std::string& what);
   bool Number(const Statement& st, float& value, size_t index = 0);
+  // A whole number within [low, high]: an error names the range.
+  bool Integer(const Statement& st, int& value, int low, int high, size_t index = 0);
   bool Numbers(const Statement& st, std::string_view text, std::vector<float>& values);
   bool Bool(const Statement& st, bool& value);
   bool NeedValues(const Statement& st, size_t count);
@@ -75,6 +82,7 @@ class LibEditor {
   std::string error_;
   LibertyLib* lib_ = nullptr;
   std::unordered_map<std::string, BusType> bus_types_;
+  int64_t bus_members_ = 0;  // members of the buses read so far
   // Templates by kind and name, so that each table finds its own at once.
   std::unordered_map<std::string_view, const LibTableTemplate*> templates_[2];
   std::unordered_map<std::string_view, LibPort*>

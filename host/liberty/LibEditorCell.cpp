@@ -1,5 +1,7 @@
 // Cells, pins and buses.
 #include <algorithm>
+#include <cstdint>
+#include <cstdlib>
 
 #include "liberty/FuncParser.h"
 #include "liberty/LibEditor.h"
@@ -47,6 +49,25 @@ LibPort* LibEditor::AddPort(LibCell* cell, std::string_view name, uint8_t direct
 }
 
 bool LibEditor::DeclarePorts(LibCell* cell, const Statement& st) {
+  auto twice = [&](const Statement& group, std::string_view name) {
+    return Fail(group, std::string(group.name) + " '" + std::string(name) +
+                           "' is defined twice in cell '" + cell->Name() + "'");
+  };
+  // The members of the cell's buses counted first, before any is made.
+  for (const Statement& child : st.children) {
+    if (!child.IsGroup() || child.name != "bus") continue;
+    std::string_view type_name;  // the last bus_type, as below
+    for (const Statement& attr : child.children) {
+      if (attr.name == "bus_type") type_name = attr.Value();
+    }
+    auto type = bus_types_.find(std::string(type_name));
+    if (type == bus_types_.end()) continue;  // named below
+    bus_members_ += std::abs(int64_t{type->second.from} - type->second.to) + 1;
+    if (bus_members_ > kMaxBusMembers) {
+      return Fail(child, "bus '" + std::string(child.Value()) + "' takes the library past " +
+                             std::to_string(kMaxBusMembers) + " bus members");
+    }
+  }
   for (const Statement& child : st.children) {
     if (!child.IsGroup()) continue;
     const Statement* bad = nullptr;
@@ -57,7 +78,10 @@ bool LibEditor::DeclarePorts(LibCell* cell, const Statement& st) {
         return Fail(*bad, "expected input, output, inout or internal, found '" +
                               std::string(bad->Value()) + "'");
       }
-      for (const liberty::LibValue& name : child.values) AddPort(cell, name.text, direction, true);
+      for (const liberty::LibValue& name : child.values) {
+        if (port_index_.count(name.text)) return twice(child, name.text);
+        AddPort(cell, name.text, direction, true);
+      }
     } else if (child.name == "bus") {
       if (!NeedValues(child, 1)) return false;
       if (!DirectionOf(child, direction, bad)) {
@@ -74,6 +98,7 @@ bool LibEditor::DeclarePorts(LibCell* cell, const Statement& st) {
       if (type == bus_types_.end()) {
         return Fail(*type_attr, "unknown bus type '" + std::string(type_attr->Value()) + "'");
       }
+      if (port_index_.count(child.Value())) return twice(child, child.Value());
       auto bus = std::make_unique<LibPort>(Intern(child.Value()), direction, cell);
       LibPort* bus_port = bus.get();
       cell->owned_ports_.push_back(std::move(bus));

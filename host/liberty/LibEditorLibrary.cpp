@@ -12,6 +12,11 @@ namespace cdm {
 
 namespace {
 
+// Bounds no real library comes near; beyond them a number is an error
+// rather than a bus of millions of bits.
+constexpr int kMaxBusBitIndex = 1000000;  // bit_from, bit_to
+constexpr int kMaxFanout = 1000000;       // fanout_length
+
 std::string Lower(std::string_view text) {
   std::string lower(text);
   for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -211,11 +216,12 @@ bool LibEditor::WireLoadGroup(const Statement& st) {
     } else if (child.name == "slope") {
       if (!Number(child, wire_load->slope)) return false;
     } else if (child.name == "fanout_length") {
-      float fanout = 0.0f;
+      int fanout = 0;
       float length = 0.0f;
-      if (!NeedValues(child, 2) || !Number(child, fanout, 0) || !Number(child, length, 1))
+      if (!NeedValues(child, 2) || !Integer(child, fanout, 0, kMaxFanout, 0) ||
+          !Number(child, length, 1))
         return false;
-      wire_load->points.emplace_back(static_cast<int>(fanout), length);
+      wire_load->points.emplace_back(fanout, length);
     }
   }
   lib_->wire_loads_.push_back(std::move(wire_load));
@@ -263,32 +269,32 @@ bool LibEditor::ScalingFactorsGroup(const Statement& st, LibScaleFactor& factors
 bool LibEditor::TypeGroup(const Statement& st) {
   if (!NeedValues(st, 1)) return false;
   BusType type;
-  float from = 0.0f;
-  float to = 0.0f;
-  float width = 0.0f;
+  int width = 0;
   bool has_from = false;
   bool has_to = false;
   for (const Statement& child : st.children) {
     if (child.name == "bit_from") {
-      if (!Number(child, from)) return false;
+      if (!Integer(child, type.from, -kMaxBusBitIndex, kMaxBusBitIndex)) return false;
       has_from = true;
     } else if (child.name == "bit_to") {
-      if (!Number(child, to)) return false;
+      if (!Integer(child, type.to, -kMaxBusBitIndex, kMaxBusBitIndex)) return false;
       has_to = true;
     } else if (child.name == "bit_width") {
-      if (!Number(child, width)) return false;
+      if (!Integer(child, width, 0, kMaxBusWidth)) return false;
     }
   }
-  if (!has_from && !has_to && width > 0.0f) {
-    from = width - 1.0f;
-    to = 0.0f;
+  if (!has_from && !has_to && width > 0) {
+    type.from = width - 1;
+    type.to = 0;
   } else if (!has_from || !has_to) {
     return Fail(st, "expected bit_from and bit_to in type group '" + std::string(st.Value()) + "'");
   }
-  type.from = static_cast<int>(from);
-  type.to = static_cast<int>(to);
-  if (std::abs(type.from - type.to) > 65535)
-    return Fail(st, "bus type '" + std::string(st.Value()) + "' is too wide");
+  // Both within the index bounds: the difference cannot overflow.
+  if (std::abs(type.from - type.to) >= kMaxBusWidth) {
+    return Fail(st, "bus type '" + std::string(st.Value()) +
+                        "' is too wide: " + std::to_string(std::abs(type.from - type.to) + 1) +
+                        " bits, more than " + std::to_string(kMaxBusWidth));
+  }
   bus_types_[std::string(st.Value())] = type;
   return true;
 }

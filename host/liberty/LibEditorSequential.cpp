@@ -24,9 +24,7 @@ bool LibEditor::SequentialGroup(LibCell* cell, const Statement& st) {
   group->first = port_index_.at(st.values[at].text);
   group->second = port_index_.at(st.values[at + 1].text);
   if (at == 0 && st.values.size() >= 3) {
-    float width = 0.0f;
-    if (!Number(st, width, 2)) return false;
-    group->bank_width = static_cast<int>(width);
+    if (!Integer(st, group->bank_width, 1, kMaxBusWidth, 2)) return false;
   }
   for (const Statement& child : st.children) {
     const std::string_view name = child.name;
