@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "cmdlib/OutputCapture.h"
 #include "cmdlib/TclCmd.h"
 #include "msg/MessageBook.h"
+#include "msg/SafeText.h"
 
 namespace cmdlib {
 namespace {
@@ -22,18 +24,18 @@ void SetResult(Tcl_Interp* interp, const CommonCmd::State& state) {
     return;
   }
   if (!state.result_is_list) {
-    Tcl_SetObjResult(interp, Tcl_NewStringObj(state.result.c_str(), -1));
+    Tcl_SetObjResult(interp, NewTextObj(state.result));
     return;
   }
   Tcl_Obj* list = Tcl_NewListObj(0, nullptr);
   for (const std::string& item : state.result_list)
-    Tcl_ListObjAppendElement(interp, list, Tcl_NewStringObj(item.c_str(), -1));
+    Tcl_ListObjAppendElement(interp, list, NewTextObj(item));
   Tcl_SetObjResult(interp, list);
 }
 
 int Error(Tcl_Interp* interp, const std::string& message) {
   msg::MessageBook::Get().CountError();
-  Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + message).c_str(), -1));
+  Tcl_SetObjResult(interp, NewTextObj("Error: " + message));
   return TCL_ERROR;
 }
 
@@ -74,6 +76,13 @@ int RunParsed(CommonCmd* command, Tcl_Interp* interp, const std::vector<std::str
     }
   } catch (const Interrupted&) {
     return Interrupt(interp);
+  } catch (const std::bad_alloc&) {
+    // What the command built is freed by now; readers catch this themselves
+    // to name their file and keep the database as it was.
+    FlushOutputs();
+    std::string words;
+    for (const std::string& arg : args) words += " " + arg;
+    return Error(interp, state.name + ": out of memory (" + state.name + msg::Excerpt(words) + ")");
   } catch (const std::exception& failure) {
     FlushOutputs();
     return Error(interp, state.name + ": internal error: " + failure.what());
@@ -123,6 +132,11 @@ int RunCommand(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const obj
 }
 
 }  // namespace
+
+Tcl_Obj* NewTextObj(std::string_view text) {
+  const std::string valid = msg::ValidText(text);
+  return Tcl_NewStringObj(valid.data(), static_cast<int>(valid.size()));
+}
 
 void FlushOutputs() {
   if (Tcl_Channel out = Tcl_GetStdChannel(TCL_STDOUT)) Tcl_Flush(out);

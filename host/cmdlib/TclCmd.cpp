@@ -2,13 +2,14 @@
 
 #include <boost/any.hpp>
 
+#include "cmdlib/TclBinding.h"
 #include "msg/MessageBook.h"
 
 namespace cmdlib {
 
 int TclCmd::Fail(Tcl_Interp* interp, const std::string& why) {
   msg::MessageBook::Get().CountError();
-  Tcl_SetObjResult(interp, Tcl_NewStringObj(("Error: " + name() + ": " + why).c_str(), -1));
+  Tcl_SetObjResult(interp, NewTextObj("Error: " + name() + ": " + why));
   return TCL_ERROR;
 }
 

@@ -6,6 +6,7 @@
 #include "cmdlib/HostCommands.h"
 #include "cmdlib/OutputCapture.h"
 #include "cmdlib/TclCmd.h"
+#include "msg/SafeText.h"
 
 namespace shell {
 namespace {
@@ -52,10 +53,11 @@ class RedirectCmd : public cmdlib::TclCmd {
     }
     Tcl_Obj* previous = append ? Tcl_GetVar2Ex(interp, target.c_str(), nullptr, 0) : nullptr;
     std::string value = previous ? std::string(Tcl_GetString(previous)) : std::string();
-    value += capture.Text();
+    value += msg::ValidText(capture.Text());  // names may hold any byte
     Tcl_Obj* result = Tcl_GetObjResult(interp);
     Tcl_IncrRefCount(result);
-    if (!Tcl_SetVar2Ex(interp, target.c_str(), nullptr, Tcl_NewStringObj(value.c_str(), -1),
+    if (!Tcl_SetVar2Ex(interp, target.c_str(), nullptr,
+                       Tcl_NewStringObj(value.data(), static_cast<int>(value.size())),
                        TCL_LEAVE_ERR_MSG)) {
       Tcl_DecrRefCount(result);
       return TCL_ERROR;
