@@ -1,0 +1,4 @@
+module m (a);
+  input a;
+endmodule
+\nâ‚

@@ -1,0 +1,8 @@
+module a (x);
+  input x;
+  b u (.x(x));
+endmodule
+module b (x);
+  input x;
+  a u (.x(x));
+endmodule

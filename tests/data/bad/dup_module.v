@@ -1,0 +1,6 @@
+module m (a);
+  input a;
+endmodule
+module m (b);
+  input b;
+endmodule

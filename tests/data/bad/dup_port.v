@@ -1,0 +1,3 @@
+module m (a, a);
+  input a;
+endmodule
