@@ -9,8 +9,11 @@
 namespace cmdlib {
 
 CommandTable& CommandTable::Get() {
-  static CommandTable table;
-  return table;
+  // Never destroyed: commands live until the process ends, and the table is
+  // what holds them (a table destroyed at exit would leave them leaked for
+  // the leak checker, and dangling for a command still running).
+  static CommandTable* table = new CommandTable;
+  return *table;
 }
 
 void CommandTable::Remove(CommonCmd* command) {
