@@ -3,4 +3,6 @@
 #include "cmd/TclCmd.h"
 #include "format/ReportMgr.h"
 
-int CheckDesignCmd::exec() { return PreReport() ? 0 : 1; }
+int CheckDesignCmd::exec() {
+  return PreReport() ? 0 : 1;
+}

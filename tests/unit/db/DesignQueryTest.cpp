@@ -1,5 +1,5 @@
-#include "support/DesignTestUtil.h"
 #include "db/DesignQuery.h"
+#include "support/DesignTestUtil.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "design/DesignArea.h"
-#include "support/DesignTestUtil.h"
 #include "hostapi/cdm/Cell.h"
 #include "liberty/LibertyReader.h"
+#include "support/DesignTestUtil.h"
 
 namespace {
 

@@ -2,10 +2,10 @@
 
 #include <regex>
 
-#include "support/CaptureResult.h"
 #include "format/ReportMgr.h"
 #include "format/ReportPrint.h"
 #include "hostapi/cdm/Pin.h"
+#include "support/CaptureResult.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "support/DesignTestUtil.h"
 #include "format/ReportMgr.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Pin.h"
 #include "liberty/LibertyReader.h"
+#include "support/DesignTestUtil.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "support/CaptureResult.h"
 #include "format/ReportMgr.h"
+#include "support/CaptureResult.h"
 
 namespace {
 
