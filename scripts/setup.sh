@@ -6,6 +6,14 @@
 set -euo pipefail
 
 packages=(g++ cmake make tcl-dev libboost-dev zlib1g-dev libgtest-dev libbenchmark-dev python3)
+# Asked for: KELVO_FUZZ=1 adds clang and its libFuzzer runtime (scripts/fuzz.sh),
+# KELVO_CI=1 those and clang-format (.ci/run).
+if [ "${KELVO_FUZZ:-0}" = 1 ] || [ "${KELVO_CI:-0}" = 1 ]; then
+  packages+=(clang libclang-rt-dev)
+fi
+if [ "${KELVO_CI:-0}" = 1 ]; then
+  packages+=(clang-format)
+fi
 optional=(tcl-tclreadline)
 
 installed() {
