@@ -27,6 +27,10 @@ Iterator<LibertyLib>* Root::LibertyLibIter() const {
 }
 
 LibertyLib* Root::AddLibertyLib(std::unique_ptr<LibertyLib> lib) {
+  // Room first: once the lists change nothing below may fail, so that a
+  // read that runs out of memory leaves the root as it was.
+  liberty_libs_.reserve(liberty_libs_.size() + 1);
+  owned_.reserve(owned_.size() + 1);
   LibertyLib* added = lib.get();
   bool replaced = false;
   for (LibertyLib*& existing : liberty_libs_) {
