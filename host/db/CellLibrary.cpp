@@ -41,7 +41,7 @@ bool Cell::IsGTechCell() const {
 float Pin::Capacitance(const RiseFall* edge, const MinMax* minmax) const {
   LibPort* port = LibPortOf(this);
   if (!port) return 0.0f;
-  return std::max(0.0f, port->GetCapacitance(edge, minmax));
+  return std::max(0.0f, static_cast<float>(port->GetCapacitance(edge, minmax)));
 }
 
 Pin* Pin::GetInputOutputPin(bool through_sequential) const {
