@@ -80,7 +80,7 @@ bool FastNumber(const char* p, const char* end, double& value) {
 }
 
 // One number at `p` (within `end`); false when there is none.
-bool ReadNumber(const char*& p, const char* end, float& value) {
+bool ReadNumber(const char*& p, const char* end, double& value) {
   while (p < end && (*p == ' ' || *p == '\t' || *p == '\n' || *p == '\r')) ++p;
   if (p == end) return false;
   size_t len = 0;
@@ -98,14 +98,28 @@ bool ReadNumber(const char*& p, const char* end, float& value) {
     parsed = std::strtod(buffer, &stop);
     if (stop != buffer + len || !std::isfinite(parsed)) return false;
   }
-  value = static_cast<float>(parsed);
+  value = parsed;
   p += len;
+  return true;
+}
+
+bool ReadNumber(const char*& p, const char* end, float& value) {
+  double parsed = 0.0;
+  if (!ReadNumber(p, end, parsed)) return false;
+  value = static_cast<float>(parsed);
   return true;
 }
 
 }  // namespace
 
 bool LibEditor::Number(const Statement& st, float& value, size_t index) {
+  double parsed = 0.0;
+  if (!Number(st, parsed, index)) return false;
+  value = static_cast<float>(parsed);
+  return true;
+}
+
+bool LibEditor::Number(const Statement& st, double& value, size_t index) {
   if (!NeedValues(st, index + 1)) return false;
   const std::string_view text = st.values[index].text;
   const char* p = text.data();

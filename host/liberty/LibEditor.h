@@ -38,6 +38,9 @@ class LibEditor {
   bool Number(const Statement& st, float& value, size_t index = 0);
   // A whole number within [low, high]: an error names the range.
   bool Integer(const Statement& st, int& value, int low, int high, size_t index = 0);
+  // The number as the library writes it, kept to double precision so that
+  // a value converted to SI and back prints as written.
+  bool Number(const Statement& st, double& value, size_t index = 0);
   bool Numbers(const Statement& st, std::string_view text, std::vector<float>& values);
   bool Bool(const Statement& st, bool& value);
   bool NeedValues(const Statement& st, size_t count);

@@ -164,9 +164,9 @@ bool LibEditor::PinStatement(LibCell* cell, const std::vector<LibPort*>& ports,
                              const Statement& st) {
   const std::string_view name = st.name;
   const LibUnits& units = lib_->units_;
-  const float cap = units.capacitance.scale;
-  auto set_number = [&](float scale, auto apply) {
-    float value = 0.0f;
+  const double cap = units.capacitance.scale;
+  auto set_number = [&](double scale, auto apply) {
+    double value = 0.0;
     if (!Number(st, value)) return false;
     for (LibPort* port : ports) apply(*port, value * scale);
     return true;
@@ -184,21 +184,21 @@ bool LibEditor::PinStatement(LibCell* cell, const std::vector<LibPort*>& ports,
     return true;
   }
   if (name == "capacitance")
-    return set_number(cap, [](LibPort& p, float v) { p.capacitance_ = v; });
+    return set_number(cap, [](LibPort& p, double v) { p.capacitance_ = v; });
   if (name == "rise_capacitance")
-    return set_number(cap, [](LibPort& p, float v) { p.edge_cap_[0] = v; });
+    return set_number(cap, [](LibPort& p, double v) { p.edge_cap_[0] = v; });
   if (name == "fall_capacitance")
-    return set_number(cap, [](LibPort& p, float v) { p.edge_cap_[1] = v; });
+    return set_number(cap, [](LibPort& p, double v) { p.edge_cap_[1] = v; });
   if (name == "max_capacitance")
-    return set_number(cap, [](LibPort& p, float v) { p.cap_limit_[1] = v; });
+    return set_number(cap, [](LibPort& p, double v) { p.cap_limit_[1] = v; });
   if (name == "min_capacitance")
-    return set_number(cap, [](LibPort& p, float v) { p.cap_limit_[0] = v; });
+    return set_number(cap, [](LibPort& p, double v) { p.cap_limit_[0] = v; });
   if (name == "max_transition") {
-    return set_number(units.time.scale, [](LibPort& p, float v) { p.max_transition_ = v; });
+    return set_number(units.time.scale, [](LibPort& p, double v) { p.max_transition_ = v; });
   }
   if (name == "rise_capacitance_range" || name == "fall_capacitance_range") {
-    float low = 0.0f;
-    float high = 0.0f;
+    double low = 0.0;
+    double high = 0.0;
     if (!NeedValues(st, 2) || !Number(st, low, 0) || !Number(st, high, 1)) return false;
     const int edge = name[0] == 'r' ? 0 : 1;
     for (LibPort* port : ports) {
@@ -300,7 +300,7 @@ bool LibEditor::CellStatement(LibCell* cell, const Statement& st) {
     cell->clock_gating_ = std::string(st.Value());
   } else if (name == "cell_leakage_power") {
     if (!Number(st, cell->cell_leakage_power_)) return false;
-    cell->cell_leakage_power_ *= lib_->units_.power.scale;
+    cell->cell_leakage_power_ *= double{lib_->units_.power.scale};
   } else if (name == "drive_strength") {
     if (!Number(st, cell->drive_strength_)) return false;
   } else if (name == "scaling_factors") {

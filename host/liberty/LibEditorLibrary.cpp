@@ -134,51 +134,47 @@ bool LibEditor::UnitAttribute(const Statement& st, bool& handled) {
   return true;
 }
 
+// Thresholds, nominal values and defaults are kept as the library writes
+// them, in its own units: report_lib prints the defaults as they stand, and
+// tells an unset one by its -1.
 bool LibEditor::ThresholdOrDefault(const Statement& st, bool& handled) {
   struct Slot {
     const char* attribute;
-    float* target;
-    int scale;  // 0 none, 1 time, 2 capacitance, 3 power
+    double* target;
   };
   LibertyLib& lib = *lib_;
   const Slot slots[] = {
-      {"input_threshold_pct_rise", &lib.input_threshold_[0], 0},
-      {"input_threshold_pct_fall", &lib.input_threshold_[1], 0},
-      {"output_threshold_pct_rise", &lib.output_threshold_[0], 0},
-      {"output_threshold_pct_fall", &lib.output_threshold_[1], 0},
-      {"slew_lower_threshold_pct_rise", &lib.slew_lower_[0], 0},
-      {"slew_lower_threshold_pct_fall", &lib.slew_lower_[1], 0},
-      {"slew_upper_threshold_pct_rise", &lib.slew_upper_[0], 0},
-      {"slew_upper_threshold_pct_fall", &lib.slew_upper_[1], 0},
-      {"slew_derate_from_library", &lib.slew_derate_, 0},
-      {"nom_voltage", &lib.nom_voltage_, 0},
-      {"nom_temperature", &lib.nom_temperature_, 0},
-      {"nom_process", &lib.nom_process_, 0},
-      {"default_max_transition", &lib.default_max_slew_, 1},
-      {"default_max_fanout", &lib.default_max_fanout_, 0},
-      {"default_fanout_load", &lib.default_fanout_load_, 0},
-      {"default_max_capacitance", &lib.default_max_capacitance_, 2},
-      {"default_input_pin_cap", &lib.default_input_pin_cap_, 2},
-      {"default_cell_leakage_power", &lib.default_cell_leakage_power_, 3},
-      {"default_leakage_power_density", &lib.default_leakage_power_density_, 3},
+      {"input_threshold_pct_rise", &lib.input_threshold_[0]},
+      {"input_threshold_pct_fall", &lib.input_threshold_[1]},
+      {"output_threshold_pct_rise", &lib.output_threshold_[0]},
+      {"output_threshold_pct_fall", &lib.output_threshold_[1]},
+      {"slew_lower_threshold_pct_rise", &lib.slew_lower_[0]},
+      {"slew_lower_threshold_pct_fall", &lib.slew_lower_[1]},
+      {"slew_upper_threshold_pct_rise", &lib.slew_upper_[0]},
+      {"slew_upper_threshold_pct_fall", &lib.slew_upper_[1]},
+      {"slew_derate_from_library", &lib.slew_derate_},
+      {"nom_voltage", &lib.nom_voltage_},
+      {"nom_temperature", &lib.nom_temperature_},
+      {"nom_process", &lib.nom_process_},
+      {"default_max_transition", &lib.default_max_slew_},
+      {"default_max_fanout", &lib.default_max_fanout_},
+      {"default_fanout_load", &lib.default_fanout_load_},
+      {"default_max_capacitance", &lib.default_max_capacitance_},
+      {"default_input_pin_cap", &lib.default_input_pin_cap_},
+      {"default_cell_leakage_power", &lib.default_cell_leakage_power_},
+      {"default_leakage_power_density", &lib.default_leakage_power_density_},
   };
   handled = false;
   for (const Slot& slot : slots) {
     if (st.name != slot.attribute) continue;
     handled = true;
-    float value = 0.0f;
-    if (!Number(st, value)) return false;
-    const LibUnits& units = lib.units_;
-    const float scale = slot.scale == 1   ? units.time.scale
-                        : slot.scale == 2 ? units.capacitance.scale
-                        : slot.scale == 3 ? units.power.scale
-                                          : 1.0f;
-    *slot.target = value * scale;
-    return true;
+    return Number(st, *slot.target);
   }
   return true;
 }
 
+// The voltage of a condition is kept in volts: the library writes it in its
+// voltage unit (1200 in a library of "1mV" is 1.2 V).
 bool LibEditor::OperatingConditionsGroup(const Statement& st) {
   if (!NeedValues(st, 1)) return false;
   auto cond = std::make_unique<OperatingConditions>();
@@ -188,6 +184,7 @@ bool LibEditor::OperatingConditionsGroup(const Statement& st) {
       if (!Number(child, cond->process)) return false;
     } else if (child.name == "voltage") {
       if (!Number(child, cond->voltage)) return false;
+      cond->voltage *= double{lib_->units_.voltage.scale};
     } else if (child.name == "temperature") {
       if (!Number(child, cond->temperature)) return false;
     } else if (child.name == "tree_type") {
@@ -217,7 +214,7 @@ bool LibEditor::WireLoadGroup(const Statement& st) {
       if (!Number(child, wire_load->slope)) return false;
     } else if (child.name == "fanout_length") {
       int fanout = 0;
-      float length = 0.0f;
+      double length = 0.0;
       if (!NeedValues(child, 2) || !Integer(child, fanout, 0, kMaxFanout, 0) ||
           !Number(child, length, 1))
         return false;
@@ -357,7 +354,7 @@ bool LibEditor::LibraryStatement(const Statement& st) {
       return Fail(st, "expected top, enclosed or segmented, found '" + value + "'");
     }
   } else if (name == "voltage_map") {
-    float volts = 0.0f;
+    double volts = 0.0;
     if (!NeedValues(st, 2) || !Number(st, volts, 1)) return false;
     lib.voltage_map_[value] = volts;
   } else if (name == "define") {

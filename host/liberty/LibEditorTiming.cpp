@@ -4,11 +4,11 @@
 
 namespace cdm {
 
-float LibPort::GetCapacitance(const RiseFall* edge, const MinMax* minmax) const {
+double LibPort::GetCapacitance(const RiseFall* edge, const MinMax* minmax) const {
   const int e = edge->index();
-  const float range = edge_cap_range_[e][minmax->index()];
-  if (range >= 0.0f) return range;
-  if (edge_cap_[e] >= 0.0f) return edge_cap_[e];
+  const double range = edge_cap_range_[e][minmax->index()];
+  if (range >= 0.0) return range;
+  if (edge_cap_[e] >= 0.0) return edge_cap_[e];
   return capacitance_;
 }
 
@@ -153,7 +153,7 @@ bool LibEditor::InternalPowerGroup(LibCell* cell, const Statement& st,
 }
 
 bool LibEditor::LeakageGroup(LibCell* cell, const Statement& st) {
-  float value = 0.0f;
+  double value = 0.0;
   bool has_value = false;
   LibBoolFuncExpr when;
   for (const Statement& child : st.children) {
@@ -166,7 +166,7 @@ bool LibEditor::LeakageGroup(LibCell* cell, const Statement& st) {
   }
   if (!has_value) return Fail(st, "expected a 'value' in leakage_power");
   cell->leakage_.push_back(
-      std::make_unique<LibLeakagePower>(value * lib_->units_.power.scale, std::move(when)));
+      std::make_unique<LibLeakagePower>(value * double{lib_->units_.power.scale}, std::move(when)));
   return true;
 }
 

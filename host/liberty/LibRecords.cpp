@@ -5,10 +5,10 @@
 
 namespace cdm {
 
-float WireLoad::LengthFor(int fanout) const {
-  if (points.empty()) return slope * static_cast<float>(fanout);
-  const std::pair<int, float>* last = &points.front();
-  const std::pair<int, float>* next = nullptr;  // the nearest entry above
+double WireLoad::LengthFor(int fanout) const {
+  if (points.empty()) return slope * fanout;
+  const std::pair<int, double>* last = &points.front();
+  const std::pair<int, double>* next = nullptr;  // the nearest entry above
   for (const auto& point : points) {
     if (point.first == fanout) return point.second;
     if (point.first < fanout && point.first >= last->first) last = &point;
@@ -16,11 +16,11 @@ float WireLoad::LengthFor(int fanout) const {
   }
   if (fanout > last->first && next) {
     // Between two entries of the table: linear between them.
-    const float share =
-        static_cast<float>(fanout - last->first) / static_cast<float>(next->first - last->first);
+    const double share =
+        static_cast<double>(fanout - last->first) / static_cast<double>(next->first - last->first);
     return last->second + share * (next->second - last->second);
   }
-  if (fanout > last->first) return last->second + slope * static_cast<float>(fanout - last->first);
+  if (fanout > last->first) return last->second + slope * (fanout - last->first);
   return last->second;
 }
 

@@ -52,8 +52,8 @@ void PrintThresholds(std::ostream& os, cdm::LibertyLib* lib) {
 
 // A timing default prints its number only when it is unset (-1); a set one
 // reads "undefined". The comparison is that of the value cut to an integer.
-std::string TimingDefaultText(float value) {
-  if (value > -2.0f && value <= -1.0f) {
+std::string TimingDefaultText(double value) {
+  if (value > -2.0 && value <= -1.0) {
     char text[64];
     std::snprintf(text, sizeof text, "%f", value);
     return text;

@@ -7,7 +7,7 @@ namespace {
 
 enum PinDirection { kInput = 0, kOutput = 1, kInout = 2 };
 
-std::string CapText(cdm::LibertyLib* lib, float value) {
+std::string CapText(cdm::LibertyLib* lib, double value) {
   return GetDoubleAttrString(value, lib->GetUnits().capacitance.scale, " ");
 }
 

@@ -41,8 +41,8 @@ class LibCell : public Reference {
   const std::string& GetFootprint() const { return footprint_; }
   // The footprint, else the name without its drive-strength suffix.
   std::string GetCellTypeName() const;
-  float GetDriveStrength() const { return drive_strength_; }                  // 0 when unset
-  float GetCellLeakagePower() const { return cell_leakage_power_; }           // watts, 0 unset
+  double GetDriveStrength() const { return drive_strength_; }                 // 0 when unset
+  double GetCellLeakagePower() const { return cell_leakage_power_; }          // watts, 0 unset
   const LibScaleFactor* GetScalingFactor() const { return scaling_factor_; }  // may be null
 
   // Classifiers.
@@ -117,8 +117,8 @@ class LibCell : public Reference {
   int const_value_ = -1;
   std::string footprint_;
   std::string clock_gating_;
-  float drive_strength_ = 0.0f;
-  float cell_leakage_power_ = 0.0f;
+  double drive_strength_ = 0.0;
+  double cell_leakage_power_ = 0.0;
   const LibScaleFactor* scaling_factor_ = nullptr;
   std::vector<std::unique_ptr<LibPort>> owned_ports_;
   std::vector<LibPort*> ports_;

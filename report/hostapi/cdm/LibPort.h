@@ -1,5 +1,6 @@
-// A pin (or bus) of a library cell. Capacitances are in farads; a value
-// the library leaves out reads -1.
+// A pin (or bus) of a library cell. Capacitances are in farads, kept to
+// double precision so that divided by the library's unit they give back the
+// number the library wrote; a value the library leaves out reads -1.
 #pragma once
 
 #include <memory>
@@ -24,14 +25,14 @@ class LibPort : public Port {
   LibCell* GetLibCell() const { return cell_; }
 
   // `capacitance`; -1 when unset.
-  float GetCapacitance() const { return capacitance_; }
+  double GetCapacitance() const { return capacitance_; }
   // `rise_capacitance` / `fall_capacitance` for max, the ends of their
   // `*_capacitance_range` for min (max too when a range is given); each
   // falls back to the plain capacitance.
-  float GetCapacitance(const RiseFall* edge, const MinMax* minmax) const;
+  double GetCapacitance(const RiseFall* edge, const MinMax* minmax) const;
   // `max_capacitance` / `min_capacitance`; -1 when unset.
-  float GetCapacitanceLimits(const MinMax* minmax) const { return cap_limit_[minmax->index()]; }
-  float GetMaxTransition() const { return max_transition_; }  // seconds, -1 unset
+  double GetCapacitanceLimits(const MinMax* minmax) const { return cap_limit_[minmax->index()]; }
+  double GetMaxTransition() const { return max_transition_; }  // seconds, -1 unset
 
   // Null when the pin has none.
   const LibBoolFuncExpr* GetFunction() const { return function_.get(); }
@@ -51,11 +52,11 @@ class LibPort : public Port {
  private:
   friend class LibEditor;  // the reader fills the fields
   LibCell* cell_;
-  float capacitance_ = -1.0f;
-  float edge_cap_[2] = {-1.0f, -1.0f};                             // rise, fall
-  float edge_cap_range_[2][2] = {{-1.0f, -1.0f}, {-1.0f, -1.0f}};  // [edge][min/max]
-  float cap_limit_[2] = {-1.0f, -1.0f};                            // min, max
-  float max_transition_ = -1.0f;
+  double capacitance_ = -1.0;
+  double edge_cap_[2] = {-1.0, -1.0};                           // rise, fall
+  double edge_cap_range_[2][2] = {{-1.0, -1.0}, {-1.0, -1.0}};  // [edge][min/max]
+  double cap_limit_[2] = {-1.0, -1.0};                          // min, max
+  double max_transition_ = -1.0;
   bool is_clock_ = false;
   std::unique_ptr<LibBoolFuncExpr> function_;
   std::unique_ptr<LibBoolFuncExpr> state_function_;

@@ -60,13 +60,13 @@ class LibPowerAttr {
 // One `leakage_power` group of a cell; the value in watts.
 class LibLeakagePower {
  public:
-  LibLeakagePower(float value, LibBoolFuncExpr when) : value_(value), when_(std::move(when)) {}
-  float GetValue() const { return value_; }
+  LibLeakagePower(double value, LibBoolFuncExpr when) : value_(value), when_(std::move(when)) {}
+  double GetValue() const { return value_; }
   const LibBoolFuncExpr* GetWhen() const { return &when_; }  // never null
   const std::string& GetWhenStr() const { return when_.GetFuncStr(); }
 
  private:
-  float value_;
+  double value_;
   LibBoolFuncExpr when_;
 };
 

@@ -17,9 +17,9 @@ class LibertyLib;
 class OperatingConditions {
  public:
   std::string name;
-  float process = 1.0f;
-  float voltage = 0.0f;      // volts
-  float temperature = 0.0f;  // degrees Celsius
+  double process = 1.0;
+  double voltage = 0.0;      // volts, whatever the library's voltage unit
+  double temperature = 0.0;  // degrees Celsius
   WireLoadTree tree = WireLoadTree::kUnknown;
 };
 
@@ -29,15 +29,15 @@ class WireLoad {
  public:
   std::string name;
   LibertyLib* library = nullptr;  // the library that holds the model
-  float resistance = 0.0f;
-  float capacitance = 0.0f;
-  float area = 0.0f;
-  float slope = 0.0f;
-  std::vector<std::pair<int, float>> points;  // fan-out, length
+  double resistance = 0.0;
+  double capacitance = 0.0;
+  double area = 0.0;
+  double slope = 0.0;
+  std::vector<std::pair<int, double>> points;  // fan-out, length
 
   // The length for a fan-out: the table's entry, else extrapolated from
   // the last entry with the slope.
-  float LengthFor(int fanout) const;
+  double LengthFor(int fanout) const;
 };
 
 // A `lu_table_template` or `power_lut_template` group.

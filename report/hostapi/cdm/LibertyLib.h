@@ -1,5 +1,7 @@
 // A technology library read from a Liberty file, or the built-in generic
-// library (which has no file). Values are SI; the units say how to print.
+// library (which has no file). Values of cells and pins are SI (the units
+// say how to print them); library-level defaults and thresholds are as
+// written.
 #pragma once
 
 #include <cstdint>
@@ -57,16 +59,17 @@ class LibertyLib : public Lib {
   const WireLoad* GetDefaultWireLoad() const;
   WireLoadMode GetDefaultWireloadMode() const { return wire_load_mode_; }
 
-  // Thresholds, in percent as written.
-  float GetInputThreshold(const RiseFall* edge) const { return input_threshold_[edge->index()]; }
-  float GetOutputThreshold(const RiseFall* edge) const { return output_threshold_[edge->index()]; }
-  float GetSlewLowerThreshold(const RiseFall* edge) const { return slew_lower_[edge->index()]; }
-  float GetSlewUpperThreshold(const RiseFall* edge) const { return slew_upper_[edge->index()]; }
-  float GetSlewDerateFromLibrary() const { return slew_derate_; }
-  float GetNomVoltage() const { return nom_voltage_; }
-  float GetNomTemperature() const { return nom_temperature_; }
-  float GetNomProcess() const { return nom_process_; }
-  const std::map<std::string, float>& GetVoltageMap() const { return voltage_map_; }
+  // Thresholds, in percent as written; nominal values and the voltage map
+  // as written (the voltage map in the library's voltage unit).
+  double GetInputThreshold(const RiseFall* edge) const { return input_threshold_[edge->index()]; }
+  double GetOutputThreshold(const RiseFall* edge) const { return output_threshold_[edge->index()]; }
+  double GetSlewLowerThreshold(const RiseFall* edge) const { return slew_lower_[edge->index()]; }
+  double GetSlewUpperThreshold(const RiseFall* edge) const { return slew_upper_[edge->index()]; }
+  double GetSlewDerateFromLibrary() const { return slew_derate_; }
+  double GetNomVoltage() const { return nom_voltage_; }
+  double GetNomTemperature() const { return nom_temperature_; }
+  double GetNomProcess() const { return nom_process_; }
+  const std::map<std::string, double>& GetVoltageMap() const { return voltage_map_; }
 
   // Models.
   DelayModelType GetDelayModelType() const { return delay_model_; }
@@ -74,14 +77,15 @@ class LibertyLib : public Lib {
   std::vector<const LibTableTemplate*> GetAllTableTemplates(TemplateClass kind) const;
   const LibTableTemplate* GetTableTemplate(TemplateClass kind, const std::string& name) const;
 
-  // Defaults: -1 when unset.
-  float GetDefaultMaxSlew() const { return default_max_slew_; }
-  float GetDefaultMaxFanout() const { return default_max_fanout_; }
-  float GetDefaultFanoutLoad() const { return default_fanout_load_; }
-  float GetDefaultMaxCapacitance() const { return default_max_capacitance_; }
-  float GetDefaultCellLeakagePower() const { return default_cell_leakage_power_; }
-  float GetDefaultLeakagePowerDensity() const { return default_leakage_power_density_; }
-  float GetDefaultInputPinCap() const { return default_input_pin_cap_; }
+  // Defaults, in the library's own units as written (report_lib prints
+  // them so): -1 when unset.
+  double GetDefaultMaxSlew() const { return default_max_slew_; }
+  double GetDefaultMaxFanout() const { return default_max_fanout_; }
+  double GetDefaultFanoutLoad() const { return default_fanout_load_; }
+  double GetDefaultMaxCapacitance() const { return default_max_capacitance_; }
+  double GetDefaultCellLeakagePower() const { return default_cell_leakage_power_; }
+  double GetDefaultLeakagePowerDensity() const { return default_leakage_power_density_; }
+  double GetDefaultInputPinCap() const { return default_input_pin_cap_; }
   // The library's own k-factors; never null (possibly empty).
   const LibScaleFactor* GetDefaultScaleFactorAttrs() const { return &default_scale_factors_; }
   // `scaling_factors` groups by name.
@@ -115,25 +119,25 @@ class LibertyLib : public Lib {
   std::vector<std::unique_ptr<WireLoad>> wire_loads_;
   std::string default_wire_load_;
   WireLoadMode wire_load_mode_ = WireLoadMode::kTop;
-  float input_threshold_[2] = {50.0f, 50.0f};
-  float output_threshold_[2] = {50.0f, 50.0f};
-  float slew_lower_[2] = {20.0f, 20.0f};
-  float slew_upper_[2] = {80.0f, 80.0f};
-  float slew_derate_ = 1.0f;
-  float nom_voltage_ = 0.0f;
-  float nom_temperature_ = 0.0f;
-  float nom_process_ = 1.0f;
-  std::map<std::string, float> voltage_map_;
+  double input_threshold_[2] = {50.0, 50.0};
+  double output_threshold_[2] = {50.0, 50.0};
+  double slew_lower_[2] = {20.0, 20.0};
+  double slew_upper_[2] = {80.0, 80.0};
+  double slew_derate_ = 1.0;
+  double nom_voltage_ = 0.0;
+  double nom_temperature_ = 0.0;
+  double nom_process_ = 1.0;
+  std::map<std::string, double> voltage_map_;
   DelayModelType delay_model_ = DelayModelType::kTableLookup;
   PowerModelType power_model_ = PowerModelType::kTableLookup;
   std::vector<std::unique_ptr<LibTableTemplate>> templates_;
-  float default_max_slew_ = -1.0f;
-  float default_max_fanout_ = -1.0f;
-  float default_fanout_load_ = -1.0f;
-  float default_max_capacitance_ = -1.0f;
-  float default_cell_leakage_power_ = -1.0f;
-  float default_leakage_power_density_ = -1.0f;
-  float default_input_pin_cap_ = -1.0f;
+  double default_max_slew_ = -1.0;
+  double default_max_fanout_ = -1.0;
+  double default_fanout_load_ = -1.0;
+  double default_max_capacitance_ = -1.0;
+  double default_cell_leakage_power_ = -1.0;
+  double default_leakage_power_density_ = -1.0;
+  double default_input_pin_cap_ = -1.0;
   LibScaleFactor default_scale_factors_{""};
   std::vector<std::unique_ptr<LibScaleFactor>> scale_factors_;
   std::map<std::string, LibScaleFactor*> scale_factor_map_;

@@ -101,7 +101,7 @@ TEST(ReaderSyntax, LibraryAttributesUnitsAndDefaults) {
   auto parsed = Parse(
       root,
       "library(u) {\n"
-      "  default_max_transition : 0.5;\n"  // before the unit: read in it all the same
+      "  default_max_transition : 0.5;\n"  // kept as written, in the library's time unit
       "  time_unit : \"1ps\";\n"
       "  voltage_unit : \"1mV\";\n"
       "  current_unit : \"1uA\";\n"
@@ -127,7 +127,7 @@ TEST(ReaderSyntax, LibraryAttributesUnitsAndDefaults) {
       "}\n");
   ASSERT_TRUE(parsed.lib) << parsed.error;
   const cdm::LibertyLib& lib = *parsed.lib;
-  EXPECT_FLOAT_EQ(lib.GetDefaultMaxSlew(), 0.5e-12f);
+  EXPECT_DOUBLE_EQ(lib.GetDefaultMaxSlew(), 0.5);
   EXPECT_FLOAT_EQ(lib.GetDefaultMaxFanout(), -1.0f);
   EXPECT_FLOAT_EQ(lib.GetTimeUnit().scale, 1e-12f);
   EXPECT_EQ(lib.GetTimeUnit().libval(), "1ps");
@@ -148,6 +148,8 @@ TEST(ReaderSyntax, LibraryAttributesUnitsAndDefaults) {
   EXPECT_STREQ(cdm::wireloadModeString(lib.GetDefaultWireloadMode()), "enclosed");
   ASSERT_TRUE(lib.GetDefaultOperatingConditions());
   EXPECT_FLOAT_EQ(lib.GetDefaultOperatingConditions()->temperature, 125.0f);
+  // 0.9 in the library's unit of 1mV: the record holds volts.
+  EXPECT_NEAR(lib.GetDefaultOperatingConditions()->voltage, 0.9e-3, 1e-9);
   EXPECT_EQ(cdm::to_string(lib.GetDefaultOperatingConditions()->tree), "worst_case_tree");
   ASSERT_TRUE(lib.GetDefaultWireLoad());
   EXPECT_EQ(lib.GetDefaultWireLoad()->library, &lib);
@@ -193,6 +195,26 @@ TEST(ReaderSyntax, WireLoadLengthBetweenAndBeyondTheTable) {
   EXPECT_FLOAT_EQ(wire_load->LengthFor(5), 7.0f);
   EXPECT_FLOAT_EQ(wire_load->LengthFor(7), 27.0f);
   EXPECT_FLOAT_EQ(wire_load->LengthFor(1), 1.0f);
+}
+
+// Prefixes are read without regard to case ("1ff", "1PF"), except that "M"
+// is mega and "m" milli.
+TEST(ReaderSyntax, UnitPrefixMIsMegaAndmIsMilli) {
+  cdm::Root root;
+  auto parsed = Parse(root,
+                      "library(mega) {\n"
+                      "  pulling_resistance_unit : \"1Mohm\";\n"
+                      "  leakage_power_unit : \"1mW\";\n"
+                      "  capacitive_load_unit (1, PF);\n"
+                      "}\n");
+  ASSERT_TRUE(parsed.lib) << parsed.error;
+  const cdm::LibUnits& units = parsed.lib->GetUnits();
+  EXPECT_FLOAT_EQ(units.pulling_resistance.scale, 1e6f);
+  EXPECT_FLOAT_EQ(units.resistance.scale, 1e6f);
+  EXPECT_EQ(units.resistance.transSuffix(), "(Mohm)");
+  EXPECT_FLOAT_EQ(units.power.scale, 1e-3f);
+  EXPECT_EQ(units.power.transSuffix(), "(mW)");
+  EXPECT_FLOAT_EQ(units.capacitance.scale, 1e-12f);
 }
 
 TEST(ReaderSyntax, TemplatesTablesAndModels) {
