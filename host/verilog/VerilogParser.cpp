@@ -1,6 +1,7 @@
 #include "verilog/VerilogParser.h"
 
 #include <cctype>
+#include <cstdint>
 #include <cstdlib>
 
 #include "cmdlib/ReadFiles.h"
@@ -174,7 +175,27 @@ bool VerilogParser::ParseRange(Range& range) {
   if (!lexer_.Peek().Is("[")) return true;
   lexer_.Next();
   range.present = true;
-  return ParseInt(range.msb) && Expect(":") && ParseInt(range.lsb) && Expect("]");
+  const uint32_t line = lexer_.Peek().line;
+  if (!ParseInt(range.msb) || !Expect(":") || !ParseInt(range.lsb) || !Expect("]")) return false;
+  // Both have at most nine digits: the difference fits.
+  const int64_t width = std::abs(int64_t{range.msb} - range.lsb) + 1;
+  if (width > kMaxRangeBits) {
+    return Fail(line, "range [" + std::to_string(range.msb) + ":" + std::to_string(range.lsb) +
+                          "] is " + std::to_string(width) + " bits wide, more than " +
+                          std::to_string(kMaxRangeBits));
+  }
+  return true;
+}
+
+bool VerilogParser::CountDeclared(const Range& range, size_t names, uint32_t line) {
+  const uint64_t width =
+      range.present ? static_cast<uint64_t>(std::abs(int64_t{range.msb} - range.lsb)) + 1 : 1;
+  declared_bits_ += width * names;
+  const uint64_t budget = kBaseDeclaredBits + kDeclaredBitsPerByte * lexer_.Size();
+  if (declared_bits_ <= budget) return true;
+  return Fail(line, "the nets declared so far hold " + std::to_string(declared_bits_) +
+                        " bits, more than the " + std::to_string(budget) +
+                        " that a file of this size may declare");
 }
 
 bool VerilogParser::ParseAttributes(std::vector<AttrAst>& attrs) {
@@ -218,10 +239,20 @@ bool VerilogParser::ParseConstant(const Token& token, Expr& expr) {
 }
 
 bool VerilogParser::ParseExpr(Expr& expr) {
+  size_t cost = 0;
+  return ParseExpr(expr, 0, cost);
+}
+
+bool VerilogParser::ParseExpr(Expr& expr, int depth, size_t& cost) {
   expr = Expr();
   Token token = lexer_.Next();
   expr.line = token.line;
-  if (token.kind == TokenKind::kNumber) return ParseConstant(token, expr);
+  if (token.kind == TokenKind::kNumber) {
+    if (!ParseConstant(token, expr)) return false;
+    cost = expr.bits.size();
+    return true;
+  }
+  cost = 1;
   if (token.kind == TokenKind::kIdentifier) {
     expr.name = token.text;
     expr.kind = Expr::kName;
@@ -240,38 +271,48 @@ bool VerilogParser::ParseExpr(Expr& expr) {
     }
     return Expect("]");
   }
-  if (token.Is("{")) {
-    expr.kind = Expr::kConcat;
-    // Replication: {N{a, b}}.
-    if (lexer_.Peek().kind == TokenKind::kNumber &&
-        lexer_.Peek().text.find('\'') == std::string_view::npos) {
-      int count = 0;
-      if (!ParseInt(count)) return false;
-      if (count <= 0 || count > 4096) return Fail(token.line, "bad replication count");
-      if (!Expect("{")) return false;
-      std::vector<Expr> body;
-      for (;;) {
-        Expr item;
-        if (!ParseExpr(item)) return false;
-        body.push_back(std::move(item));
-        Token next = lexer_.Next();
-        if (next.Is("}")) break;
-        if (!next.Is(",")) return FailAt(next, "',' or '}'");
-      }
-      for (int i = 0; i < count; ++i)
-        for (const Expr& item : body) expr.items.push_back(item);
-      return Expect("}");
-    }
-    for (;;) {
-      Expr item;
-      if (!ParseExpr(item)) return false;
-      expr.items.push_back(std::move(item));
-      Token next = lexer_.Next();
-      if (next.Is("}")) return true;
-      if (!next.Is(",")) return FailAt(next, "',' or '}'");
-    }
+  if (!token.Is("{")) return FailAt(token, "a net expression");
+  if (depth == kMaxConcatNesting) {
+    return Fail(token.line, "concatenations nested too deeply (more than " +
+                                std::to_string(kMaxConcatNesting) + " levels)");
   }
-  return FailAt(token, "a net expression");
+  expr.kind = Expr::kConcat;
+  // Replication: {N{a, b}}.
+  size_t count = 1;
+  const bool replication = lexer_.Peek().kind == TokenKind::kNumber &&
+                           lexer_.Peek().text.find('\'') == std::string_view::npos;
+  if (replication) {
+    int given = 0;
+    if (!ParseInt(given)) return false;
+    if (given <= 0 || given > 4096) return Fail(token.line, "bad replication count");
+    count = static_cast<size_t>(given);
+    if (!Expect("{")) return false;
+  }
+  // Items as parsed, each a name (a bit at least) or a constant (its bits).
+  std::vector<Expr> body;
+  size_t body_cost = 0;
+  for (;;) {
+    Expr item;
+    size_t item_cost = 0;
+    if (!ParseExpr(item, depth + 1, item_cost)) return false;
+    body_cost += item_cost;
+    if (body_cost * count > kMaxExprBits) {
+      return Fail(token.line,
+                  "a concatenation of more than " + std::to_string(kMaxExprBits) + " bits");
+    }
+    body.push_back(std::move(item));
+    Token next = lexer_.Next();
+    if (next.Is("}")) break;
+    if (!next.Is(",")) return FailAt(next, "',' or '}'");
+  }
+  cost = body_cost * count;
+  if (!replication) {
+    expr.items = std::move(body);
+    return true;
+  }
+  for (size_t i = 0; i < count; ++i)
+    for (const Expr& item : body) expr.items.push_back(item);
+  return Expect("}");
 }
 
 bool VerilogParser::SkipParameters() {
@@ -341,7 +382,10 @@ bool VerilogParser::ParseHeaderPorts(ModuleHeaderAst& header) {
     if (lexer_.Peek().Is("[") || lexer_.Peek().Is("."))
       return Fail(token.line, "port expressions in a module header are not supported");
     header.ports.push_back(token.text);
-    if (current) current->names.push_back(token.text);
+    if (current) {
+      current->names.push_back(token.text);
+      if (!CountDeclared(current->range, 1, token.line)) return false;
+    }
     Token next = lexer_.Next();
     if (next.Is(")")) return true;
     if (!next.Is(",")) return FailAt(next, "',' or ')'");
@@ -409,6 +453,7 @@ bool VerilogParser::ParseDecl(DeclKind kind, uint32_t line, const std::vector<At
     Token name;
     if (!ExpectIdentifier(name, "a name")) return false;
     decl.names.push_back(name.text);
+    if (!CountDeclared(decl.range, 1, name.line)) return false;
     Token next = lexer_.Next();
     if (next.Is("=")) {
       // "wire a = b;" is an assign.

@@ -2,6 +2,7 @@
 // go to a StatementSink as they are read.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -17,6 +18,16 @@ struct ParseError {
 
 class VerilogParser {
  public:
+  // Bounds no real netlist comes near: beyond them a file is refused with
+  // its line, rather than exhausting the stack or the memory.
+  static constexpr int kMaxConcatNesting = 256;               // {{{...}}}
+  static constexpr size_t kMaxExprBits = size_t{1} << 20;     // replications expanded
+  static constexpr int64_t kMaxRangeBits = int64_t{1} << 20;  // one [msb:lsb]
+  // All declarations of a file together: a base, and more for a larger
+  // file (a net bit costs the reader about 80 bytes).
+  static constexpr uint64_t kBaseDeclaredBits = uint64_t{1} << 21;
+  static constexpr uint64_t kDeclaredBitsPerByte = 4;
+
   VerilogParser(VerilogLexer& lexer, StatementSink& sink) : lexer_(lexer), sink_(sink) {}
 
   // Reads every module. False with `error` filled on the first syntax error,
@@ -32,6 +43,10 @@ class VerilogParser {
   bool ParseAttributes(std::vector<AttrAst>& attrs);
   bool ParseRange(Range& range);
   bool ParseExpr(Expr& expr);
+  // `cost` gets the bits the expression is known to hold: a constant's, or
+  // one a name, at `depth` concatenations deep.
+  bool ParseExpr(Expr& expr, int depth, size_t& cost);
+  bool CountDeclared(const Range& range, size_t names, uint32_t line);
   bool ParseConstant(const Token& token, Expr& expr);
   bool ParseInt(int& value);
   bool SkipParameters();
@@ -45,6 +60,7 @@ class VerilogParser {
   StatementSink& sink_;
   ParseError* error_ = nullptr;
   InstanceAst instance_;  // reused: instances are most of a netlist
+  uint64_t declared_bits_ = 0;
 };
 
 // Bits of a number literal, most significant first ('0','1','x','z'), or
