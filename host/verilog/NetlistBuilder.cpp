@@ -1,12 +1,14 @@
 #include "verilog/NetlistBuilder.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 
 #include "db/Netlist.h"
 #include "db/NetlistEditor.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Root.h"
+#include "verilog/VerilogParser.h"
 
 namespace verilog {
 namespace {
@@ -173,6 +175,11 @@ bool NetlistBuilder::SymbolBit(const Symbol& symbol, int index, int32_t& bit) {
   return true;
 }
 
+bool NetlistBuilder::RoomFor(const std::vector<int32_t>& bits, size_t more) {
+  if (bits.size() + more <= VerilogParser::kMaxExprBits) return true;
+  return Fail("a connection of more than " + std::to_string(VerilogParser::kMaxExprBits) + " bits");
+}
+
 bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
   switch (expr.kind) {
     case Expr::kConstant:
@@ -187,6 +194,7 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
       Symbol* symbol = FindSymbol(expr.name);
       if (!symbol) symbol = &AddSymbol(expr.name, Range(), expr.line);  // implicit net
       uint32_t width = Width(*symbol);
+      if (!RoomFor(bits, width)) return false;
       for (uint32_t i = 0; i < width; ++i)
         bits.push_back(static_cast<int32_t>(symbol->first_bit + i));
       return true;
@@ -198,6 +206,7 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
       int from = expr.kind == Expr::kBitSelect ? expr.index : expr.msb;
       int to = expr.kind == Expr::kBitSelect ? expr.index : expr.lsb;
       int step = from <= to ? 1 : -1;
+      if (!RoomFor(bits, static_cast<size_t>(std::abs(int64_t{from} - to)) + 1)) return false;
       for (int index = from;; index += step) {
         int32_t bit = 0;
         if (!SymbolBit(*symbol, index, bit)) return false;

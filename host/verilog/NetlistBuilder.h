@@ -56,6 +56,9 @@ class NetlistBuilder : public StatementSink {
   uint32_t Width(const Symbol& symbol) const;
   // Bits of an expression, most significant first: bit ids, or the
   // constants of ModuleSource. Undeclared plain names become scalar nets.
+  // False, with the error set, when `more` bits would make `bits` longer
+  // than an expression may be.
+  bool RoomFor(const std::vector<int32_t>& bits, size_t more);
   bool ExprBits(const Expr& expr, std::vector<int32_t>& bits);
   bool SymbolBit(const Symbol& symbol, int index, int32_t& bit);
   int32_t FindRoot(int32_t bit);

@@ -54,6 +54,13 @@ TEST(HostileNetlist, ReplicationsAreBoundedAsAProduct) {
   EXPECT_EQ(Read(Connect("{1048576'b0, a}")).error, limit);
   Outcome small = Read(Connect("{2{{3{a}}, 4'b0101}}", "wire [1:0] w;\n"));
   EXPECT_TRUE(small.ok) << small.error;
+  // Names count as one bit in the parser; their width is counted when the
+  // connection is made.
+  std::string names = "w";
+  for (int i = 0; i < 1024; ++i) names += ", w";
+  Outcome wide = Read(Connect("{" + names + "}", "wire [1023:0] w;\n"));
+  EXPECT_EQ(wide.error, "t.v:4: a connection of more than 1048576 bits");
+  EXPECT_EQ(wide.designs, 0u);
 }
 
 TEST(HostileNetlist, RangesAreBounded) {
