@@ -7,30 +7,7 @@
 
 namespace fuzz {
 
-namespace {
-
-// Shapes the netlist parser does not bound yet (deep concatenations,
-// replications nested into huge products, ranges of a billion bits): they
-// exhaust the stack or the memory, and are known. Skipped until the parser
-// bounds them; then this filter goes.
-bool KnownOpenShape(std::string_view input) {
-  size_t braces = 0;
-  size_t digits = 0;
-  for (size_t i = 0; i < input.size(); ++i) {
-    const char c = input[i];
-    if (c == '{') ++braces;
-    digits = (c >= '0' && c <= '9') ? digits + 1 : 0;
-    if (digits > 5 || braces > 200) return true;
-    // A replication: a count, then '{'.
-    if (c == '{' && i > 0 && input[i - 1] >= '0' && input[i - 1] <= '9') return true;
-  }
-  return false;
-}
-
-}  // namespace
-
 std::string FuzzVerilog(std::string_view input) {
-  if (KnownOpenShape(input)) return std::string();
   cdm::Root root;
   std::vector<std::string> modules;
   std::string error;

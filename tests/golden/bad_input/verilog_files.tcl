@@ -13,6 +13,9 @@ refused {read_verilog bad/v_gz_no_trailer.v.gz}
 refused {read_verilog bad/v_gz_truncated_partial.v.gz}
 refused {read_verilog bad/dup_module.v}
 refused {read_verilog bad/dup_port.v}
+refused {read_verilog bad/v_neg_range.v}
+refused {read_verilog bad/v_huge_range.v}
+refused {read_verilog bad/v_nested_repl.v}
 refused {read_verilog /dev/zero}
 # None of their modules came in, not even the whole ones before the cut.
 refused {link_design sub}

@@ -113,6 +113,12 @@ TEST_F(LoadedRoot, BadVerilogFilesAreRefusedWithFileAndLine) {
        "file is cut short)"},
       {"bad/dup_module.v", "DIR/bad/dup_module.v:4: module 'm' is defined twice"},
       {"bad/dup_port.v", "DIR/bad/dup_port.v:1: port 'a' is listed twice"},
+      {"bad/v_neg_range.v",
+       "DIR/bad/v_neg_range.v:3: range [-999999999:0] is 1000000000 bits wide, more than 1048576"},
+      {"bad/v_huge_range.v",
+       "DIR/bad/v_huge_range.v:3: range [999999999:0] is 1000000000 bits wide, more than 1048576"},
+      {"bad/v_nested_repl.v",
+       "DIR/bad/v_nested_repl.v:4: a concatenation of more than 1048576 bits"},
       // The bytes stay as they are here; the Tcl binding escapes them.
       {"bad/bad_utf8.v", "DIR/bad/bad_utf8.v:4: expected 'module', found 'n\xe2\x82'"},
       {"bad/v_lone_cont.v", "DIR/bad/v_lone_cont.v:3: expected ',' or ';', found '\xb3'"},
@@ -158,6 +164,17 @@ TEST_F(LargeFiles, DeepLibertyFunctionsEndInAMessage) {
                        "function \"" +
                        std::string(60, '(') + "... (40001 bytes)\"");
   ExpectUnchanged(parens);
+}
+
+TEST_F(LargeFiles, DeepVerilogConcatenationsEndInAMessage) {
+  const int n = 20000;
+  const std::string deep =
+      Write("v_deep_concat.v", "module m(a);\ninput a;\nwire w;\nBUF u(.A(" + std::string(n, '{') +
+                                   "a" + std::string(n, '}') + "), .Y(w));\nendmodule\n");
+  std::string error;
+  EXPECT_FALSE(ReadVerilog(deep, error));
+  EXPECT_EQ(error, deep + ":4: concatenations nested too deeply (more than 256 levels)");
+  ExpectUnchanged(deep);
 }
 
 TEST_F(LargeFiles, LongLibertyChainsAreRead) {
