@@ -57,8 +57,8 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: %s [-lib LIBERTY] NETLIST...\n", argv[0]);
     return 2;
   }
-  std::printf("%-28s %8s %8s %8s %10s %12s %10s %10s\n", "netlist", "read s", "link s", "cpu s",
-              "instances", "inst/s", "peak MB", "B/inst");
+  std::printf("%-28s %8s %8s %8s %10s %12s %10s %10s %10s\n", "netlist", "read s", "link s",
+              "cpu s", "instances", "inst/s", "read MB", "peak MB", "B/inst");
   for (int i = first; i < argc; ++i) {
     // A root per netlist, so that each starts from nothing.
     auto root = std::make_unique<cdm::Root>();
@@ -76,6 +76,7 @@ int main(int argc, char** argv) {
       return 1;
     }
     double read_seconds = Since(start);
+    long read_peak = PeakKilobytes();
     start = std::chrono::steady_clock::now();
     cdm::Design* top = cdm::FindTopDesign(root.get(), error);
     std::vector<std::string> warnings;
@@ -92,9 +93,10 @@ int main(int argc, char** argv) {
     long peak = PeakKilobytes();
     std::string name = argv[i];
     if (name.size() > 28) name = "..." + name.substr(name.size() - 25);
-    std::printf("%-28s %8.2f %8.2f %8.2f %10ld %12.0f %10.1f %10.0f\n", name.c_str(), read_seconds,
-                link_seconds, cpu_seconds, leaves, leaves / (read_seconds + link_seconds),
-                peak / 1024.0, leaves ? (peak - before) * 1024.0 / leaves : 0.0);
+    std::printf("%-28s %8.2f %8.2f %8.2f %10ld %12.0f %10.1f %10.1f %10.0f\n", name.c_str(),
+                read_seconds, link_seconds, cpu_seconds, leaves,
+                leaves / (read_seconds + link_seconds), read_peak / 1024.0, peak / 1024.0,
+                leaves ? (peak - before) * 1024.0 / leaves : 0.0);
   }
   return 0;
 }

@@ -12,7 +12,7 @@
 namespace cdm {
 namespace {
 
-uint32_t FindRoot(std::vector<uint32_t>& parent, uint32_t item) {
+uint32_t FindRoot(PodArray<uint32_t>& parent, uint32_t item) {
   uint32_t root = item;
   while (parent[root] != root) root = parent[root];
   while (parent[item] != root) {
@@ -28,6 +28,30 @@ uint32_t FindRoot(std::vector<uint32_t>& parent, uint32_t item) {
 Elaboration::Elaboration(Design* top) : top_(top) {}
 
 Elaboration::~Elaboration() = default;
+
+size_t Elaboration::ReserveHint(const Netlist* top) {
+  // The pins of the whole hierarchy, each module counted once per
+  // instance: a bound on the vertices (inout pins aside) that spares the
+  // growth copies. Post-order without recursion: modules may nest deeply.
+  std::unordered_map<const Design*, size_t> pins;
+  std::vector<std::pair<const Design*, uint32_t>> stack{{top->GetDesign(), 0}};
+  while (!stack.empty()) {
+    const Design* design = stack.back().first;
+    const Netlist* netlist = design->GetNetlist();
+    uint32_t index = stack.back().second++;
+    if (index < netlist->CellCount()) {
+      const Design* child = netlist->Cells()[index].GetRefDesign();
+      if (child && !pins.count(child)) stack.emplace_back(child, 0);
+      continue;
+    }
+    size_t sum = netlist->PinCount();
+    for (const Cell& cell : netlist->Cells())
+      if (const Design* child = cell.GetRefDesign()) sum += pins[child];
+    pins[design] = sum;
+    stack.pop_back();
+  }
+  return pins[top->GetDesign()];
+}
 
 bool Elaboration::VertexDrives(uint32_t id) const {
   const Pin* pin = VertexPin(id);
@@ -50,6 +74,7 @@ void Elaboration::Build() {
   Netlist* top = top_->GetNetlist();
   NetlistEditor::AttachTop(top, this);
   vertices_.assign(1, nullptr);
+  vertices_.reserve(ReserveHint(top) + 1);
   netlists_.assign(1, top);
   NumberPins(top, 0, top->PortPinCount());
   // Depth first, each copy right after its cell, as a deep cell walk goes.
@@ -77,6 +102,7 @@ void Elaboration::Build() {
     netlists_.push_back(copy);
     stack.push_back(Frame{copy, 0});
   }
+  vertices_.shrink_to_fit();
   BuildFlatNets();
 }
 
@@ -89,7 +115,8 @@ void Elaboration::BuildFlatNets() {
     base.emplace(netlist, total);
     total += netlist->NetCount();
   }
-  std::vector<uint32_t> parent(total);
+  PodArray<uint32_t> parent;
+  parent.resize(total);
   for (uint32_t i = 0; i < total; ++i) parent[i] = i;
   for (Netlist* netlist : netlists_) {
     uint32_t outer_base = base[netlist];
@@ -109,7 +136,9 @@ void Elaboration::BuildFlatNets() {
     }
   }
   // Ids in order of the first net of each class: the top's nets first.
-  std::vector<uint32_t> id_of(total, 0);
+  PodArray<uint32_t> id_of;
+  id_of.assign(total, 0);
+  flat_nets_.reserve(total + 1);
   flat_nets_.assign(1, FlatNetRecord());
   for (Netlist* netlist : netlists_) {
     uint32_t first = base[netlist];
@@ -117,15 +146,16 @@ void Elaboration::BuildFlatNets() {
       uint32_t root = FindRoot(parent, first + netlist->IndexOf(&net));
       if (!id_of[root]) {
         id_of[root] = static_cast<uint32_t>(flat_nets_.size());
-        flat_nets_.emplace_back();
+        flat_nets_.push_back(FlatNetRecord());
       }
       uint32_t id = id_of[root];
       NetlistEditor::SetFlatNetId(&net, id);
       if (net.LocalConstValue() >= 0) flat_nets_[id].const_value = net.LocalConstValue();
     }
   }
-  std::vector<uint32_t>().swap(parent);
-  std::vector<uint32_t>().swap(id_of);
+  parent.clear();
+  id_of.clear();
+  flat_nets_.shrink_to_fit();
   // Vertices by flat net: drivers, then loads, each in vertex order.
   for (uint32_t v = 1; v < vertices_.size(); ++v) {
     Net* net = vertices_[v]->GetNet();
@@ -139,16 +169,19 @@ void Elaboration::BuildFlatNets() {
     offset += record.driver_count + record.load_count;
   }
   flat_vertices_.assign(offset, 0);
-  std::vector<uint32_t> drivers_filled(flat_nets_.size(), 0), loads_filled(flat_nets_.size(), 0);
+  // Where the next driver and the next load of each flat net go.
+  PodArray<uint32_t> next_driver, next_load;
+  next_driver.resize(flat_nets_.size());
+  next_load.resize(flat_nets_.size());
+  for (size_t id = 0; id < flat_nets_.size(); ++id) {
+    next_driver[id] = flat_nets_[id].first;
+    next_load[id] = flat_nets_[id].first + flat_nets_[id].driver_count;
+  }
   for (uint32_t v = 1; v < vertices_.size(); ++v) {
     Net* net = vertices_[v]->GetNet();
     if (!net) continue;
     uint32_t id = net->FlatNetId();
-    const FlatNetRecord& record = flat_nets_[id];
-    if (VertexDrives(v))
-      flat_vertices_[record.first + drivers_filled[id]++] = v;
-    else
-      flat_vertices_[record.first + record.driver_count + loads_filled[id]++] = v;
+    flat_vertices_[VertexDrives(v) ? next_driver[id]++ : next_load[id]++] = v;
   }
 }
 

@@ -5,9 +5,12 @@
 // same until then.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
+
+#include "db/PodArray.h"
 
 namespace cdm {
 
@@ -64,6 +67,7 @@ class Elaboration {
   size_t Bytes() const;
 
  private:
+  static size_t ReserveHint(const Netlist* top);
   void NumberPins(Netlist* netlist, uint32_t first, uint32_t count);
   void BuildFlatNets();
 
@@ -71,9 +75,9 @@ class Elaboration {
   uint64_t generation_ = 0;
   std::vector<std::unique_ptr<Netlist>> instances_;
   std::vector<Netlist*> netlists_;  // the top, then the copies in depth-first order
-  std::vector<FlatNetRecord> flat_nets_;
-  std::vector<uint32_t> flat_vertices_;
-  std::vector<Pin*> vertices_;
+  PodArray<FlatNetRecord> flat_nets_;
+  PodArray<uint32_t> flat_vertices_;
+  PodArray<Pin*> vertices_;
 };
 
 }  // namespace cdm

@@ -132,10 +132,18 @@ class Linker {
   }
 
  private:
+  // By the address of the name first: every cell of one reference shares
+  // it (an interned name, or the bound library cell's or design's own).
   const Resolution& Resolve(const std::string& name) {
+    auto known = by_address_.find(&name);
+    if (known != by_address_.end()) return *known->second;
     auto found = resolutions_.find(name);
-    if (found != resolutions_.end()) return found->second;
+    if (found != resolutions_.end()) {
+      by_address_.emplace(&name, &found->second);
+      return found->second;
+    }
     Resolution& resolution = resolutions_[name];
+    by_address_.emplace(&name, &resolution);
     if (Design* design = root_->FindDesign(name)) {
       resolution.ref = design;
       resolution.kind = kDesignRef;
@@ -172,8 +180,9 @@ class Linker {
     Netlist* netlist = design->GetNetlist();
     const ModuleSource& source = netlist->Source();
     const uint32_t cells = netlist->CellCount();
-    // First pass: what each cell is and how many pins it has.
-    std::vector<const Resolution*> resolved(cells);
+    // First pass: what each cell is and how many pins it has. A cell's
+    // resolution is found again by name: a few distinct names serve many
+    // cells, so no per-cell record is kept.
     std::vector<std::vector<Port*>> stubs;  // ports of unresolved cells, in cell order
     uint32_t pins = static_cast<uint32_t>(design->Ports().size());
     {
@@ -182,18 +191,18 @@ class Linker {
       ConnSource conn;
       for (uint32_t i = 0; i < cells && cursor.NextInstance(line, conns); ++i) {
         Cell& cell = netlist->Cells()[i];
-        resolved[i] = &Resolve(cell.GetRefName());
+        const Resolution& resolution = Resolve(cell.GetRefName());
         std::vector<Port*> ports;
         for (uint32_t c = 0; c < conns; ++c) {
           cursor.NextConnection(conn, c);
-          if (resolved[i]->kind == kUnresolvedRef) StubPorts(netlist, conn, ports);
+          if (resolution.kind == kUnresolvedRef) StubPorts(netlist, conn, ports);
         }
-        if (resolved[i]->kind == kUnresolvedRef) {
+        if (resolution.kind == kUnresolvedRef) {
           ++unresolved_[cell.GetRefName()];
           pins += static_cast<uint32_t>(ports.size());
           stubs.push_back(std::move(ports));
         } else {
-          pins += static_cast<uint32_t>(resolved[i]->ports.size());
+          pins += static_cast<uint32_t>(resolution.ports.size());
         }
       }
     }
@@ -203,8 +212,8 @@ class Linker {
     {
       uint32_t first = netlist->PortPinCount(), stub = 0;
       for (uint32_t i = 0; i < cells; ++i) {
-        const Resolution& resolution = *resolved[i];
         Cell& cell = netlist->Cells()[i];
+        const Resolution& resolution = Resolve(cell.GetRefName());
         bool unresolved = resolution.kind == kUnresolvedRef;
         Reference* ref = unresolved
                              ? NetlistEditor::Unresolved(netlist, root_->Intern(cell.GetRefName()))
@@ -228,7 +237,7 @@ class Linker {
     std::vector<uint32_t> targets;
     for (uint32_t i = 0; i < cells && cursor.NextInstance(line, conns); ++i) {
       Cell& cell = netlist->Cells()[i];
-      const Resolution& resolution = *resolved[i];
+      const Resolution& resolution = Resolve(cell.GetRefName());
       const bool unresolved = resolution.kind == kUnresolvedRef;
       const std::vector<Port*>& ports = unresolved ? stubs[next_stub++] : resolution.ports;
       for (Port* port : ports) {
@@ -284,7 +293,8 @@ class Linker {
   Root* root_;
   std::vector<std::string>& warnings_;
   std::map<std::string, int> unresolved_;
-  std::unordered_map<std::string, Resolution> resolutions_;
+  std::unordered_map<std::string, Resolution> resolutions_;  // node-based: addresses stay
+  std::unordered_map<const std::string*, const Resolution*> by_address_;
 };
 
 }  // namespace

@@ -42,54 +42,18 @@ void ModuleSource::BeginInstance(uint32_t line, uint32_t connection_count) {
 void ModuleSource::AddConnection(const std::string* port, const int32_t* bits, uint32_t bit_count) {
   Write(port ? PortId(port) + 1 : 0);
   Write(bit_count);
-  for (uint32_t i = 0; i < bit_count; ++i) Write(static_cast<uint64_t>(bits[i] + kBitBias));
+  for (uint32_t i = 0; i < bit_count; ++i) {
+    if (bits[i] < 0) uses_[-bits[i] - 1] = true;
+    Write(static_cast<uint64_t>(bits[i] + kBitBias));
+  }
 }
 
-void ModuleSource::MapBits(const std::vector<int32_t>& map) {
-  // Rewrites the stream with each net bit replaced; the other fields copy.
-  std::vector<uint8_t> old;
-  old.swap(stream_);
-  size_t at = 0;
-  auto read = [&]() {
-    uint64_t value = 0;
-    for (int shift = 0;; shift += 7) {
-      uint8_t byte = old[at++];
-      value |= static_cast<uint64_t>(byte & 0x7f) << shift;
-      if (!(byte & 0x80)) return value;
-    }
-  };
-  stream_.reserve(old.size());
-  for (uint32_t i = 0; i < instances_; ++i) {
-    Write(read());
-    uint64_t conns = read();
-    Write(conns);
-    for (uint64_t c = 0; c < conns; ++c) {
-      Write(read());
-      uint64_t count = read();
-      Write(count);
-      for (uint64_t b = 0; b < count; ++b) {
-        int32_t bit = static_cast<int32_t>(read()) - kBitBias;
-        Write(static_cast<uint64_t>((bit >= 0 ? map[bit] : bit) + kBitBias));
-      }
-    }
-  }
-  stream_.shrink_to_fit();
+void ModuleSource::SetBitMap(PodArray<int32_t> map) {
   for (int32_t& bit : port_nets)
     if (bit >= 0) bit = map[bit];
+  bit_map_ = std::move(map);
   port_ids_.clear();
-}
-
-bool ModuleSource::UsesConstant(int32_t constant) const {
-  Cursor cursor(*this);
-  uint32_t line = 0, conns = 0;
-  ConnSource conn;
-  while (cursor.NextInstance(line, conns))
-    for (uint32_t c = 0; c < conns; ++c) {
-      cursor.NextConnection(conn, c);
-      for (int32_t bit : conn.bits)
-        if (bit == constant) return true;
-    }
-  return false;
+  stream_.shrink_to_fit();
 }
 
 uint64_t ModuleSource::Cursor::Read() {
@@ -116,7 +80,11 @@ void ModuleSource::Cursor::NextConnection(ConnSource& conn, uint32_t position) {
   conn.position = position;
   uint64_t count = Read();
   conn.bits.resize(count);
-  for (uint64_t b = 0; b < count; ++b) conn.bits[b] = static_cast<int32_t>(Read()) - kBitBias;
+  const PodArray<int32_t>& map = source_.bit_map_;
+  for (uint64_t b = 0; b < count; ++b) {
+    int32_t bit = static_cast<int32_t>(Read()) - kBitBias;
+    conn.bits[b] = bit >= 0 && !map.empty() ? map[bit] : bit;
+  }
 }
 
 }  // namespace cdm

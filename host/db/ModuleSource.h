@@ -8,6 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "db/PodArray.h"
+
 namespace cdm {
 
 // One bit of a connection: a net index of the netlist, or a constant.
@@ -29,12 +31,15 @@ class ModuleSource {
   // Writing, in instance order: an instance, then its connections.
   void BeginInstance(uint32_t line, uint32_t connection_count);
   void AddConnection(const std::string* port, const int32_t* bits, uint32_t bit_count);
-  // Renumbers every net bit through `map` (bit -> net).
-  void MapBits(const std::vector<int32_t>& map);
-  bool UsesConstant(int32_t constant) const;
+  // Net bits were written as the reader's bit numbers: `map` gives the net
+  // of each (connections and port bits are read back through it).
+  void SetBitMap(PodArray<int32_t> map);
+  bool UsesConstant(int32_t constant) const { return uses_[-constant - 1]; }
 
   uint32_t InstanceCount() const { return instances_; }
-  size_t Bytes() const { return stream_.size() + port_nets.size() * sizeof(int32_t); }
+  size_t Bytes() const {
+    return stream_.size() + (port_nets.size() + bit_map_.size()) * sizeof(int32_t);
+  }
 
   // Reading, in instance order.
   class Cursor {
@@ -56,9 +61,11 @@ class ModuleSource {
   void Write(uint64_t value);
   uint32_t PortId(const std::string* port);
 
-  std::vector<uint8_t> stream_;
+  PodArray<uint8_t> stream_;
   std::vector<const std::string*> ports_;  // connection port names by id
   std::unordered_map<const std::string*, uint32_t> port_ids_;
+  PodArray<int32_t> bit_map_;
+  bool uses_[3] = {false, false, false};  // constant 0, constant 1, open
   uint32_t instances_ = 0;
   uint32_t last_line_ = 0;
 };

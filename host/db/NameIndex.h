@@ -6,7 +6,8 @@
 #include <cstdint>
 #include <functional>
 #include <string_view>
-#include <vector>
+
+#include "db/PodArray.h"
 
 namespace cdm {
 
@@ -27,8 +28,9 @@ class NameIndex {
     }
   }
 
-  // Adds `value` under `name`; a name already present keeps its first value.
-  void Insert(std::string_view name, uint32_t value) {
+  // Adds `value` under `name` and returns it; a name already present
+  // keeps its first value, which is returned instead.
+  uint32_t Insert(std::string_view name, uint32_t value) {
     if ((count_ + 1) * 2 > slots_.size()) Grow();
     uint32_t hash = Hash(name);
     for (size_t i = hash & mask_;; i = (i + 1) & mask_) {
@@ -36,9 +38,9 @@ class NameIndex {
       if (slot.value == kNone) {
         slot = Slot{hash, value};
         ++count_;
-        return;
+        return value;
       }
-      if (slot.hash == hash && name_of_(slot.value) == name) return;
+      if (slot.hash == hash && name_of_(slot.value) == name) return slot.value;
     }
   }
 
@@ -58,7 +60,7 @@ class NameIndex {
   }
 
   void Grow() {
-    std::vector<Slot> old;
+    PodArray<Slot> old;
     old.swap(slots_);
     slots_.assign(old.empty() ? 16 : old.size() * 2, Slot());
     mask_ = slots_.size() - 1;
@@ -74,7 +76,7 @@ class NameIndex {
   }
 
   NameOf name_of_;
-  std::vector<Slot> slots_;
+  PodArray<Slot> slots_;
   size_t count_ = 0;
   size_t mask_ = 0;
 };

@@ -5,7 +5,8 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-#include <vector>
+
+#include "db/PodArray.h"
 
 namespace cdm {
 
@@ -18,7 +19,7 @@ class NamePool {
   bool Add(std::string_view name, uint32_t& offset) {
     if (chars_.size() + name.size() + 1 > kMaxBytes) return false;
     offset = static_cast<uint32_t>(chars_.size());
-    chars_.insert(chars_.end(), name.begin(), name.end());
+    chars_.append(name.data(), name.size());
     chars_.push_back('\0');
     return true;
   }
@@ -27,11 +28,12 @@ class NamePool {
     return std::string_view(text, std::strlen(text));
   }
   size_t Bytes() const { return chars_.size(); }
+  const char* Data() const { return chars_.data(); }
   void Reserve(size_t bytes) { chars_.reserve(bytes); }
   void ShrinkToFit() { chars_.shrink_to_fit(); }
 
  private:
-  std::vector<char> chars_;
+  PodArray<char> chars_;
 };
 
 }  // namespace cdm

@@ -10,7 +10,7 @@ Netlist::Netlist(Design* design) : design_(design), definition_(this) {}
 Netlist::Netlist(const Netlist& definition, Cell* instance)
     : design_(definition.design_), instance_(instance), definition_(&definition) {
   cell_count_ = definition.cell_count_;
-  cells_ = std::make_unique<Cell[]>(cell_count_);
+  cells_ = ObjectArray<Cell>(cell_count_);
   for (uint32_t i = 0; i < cell_count_; ++i) {
     const Cell& from = definition.cells_[i];
     Cell& to = cells_[i];
@@ -20,7 +20,7 @@ Netlist::Netlist(const Netlist& definition, Cell* instance)
     to.first_pin_ = from.first_pin_;
   }
   net_count_ = definition.net_count_;
-  nets_ = std::make_unique<Net[]>(net_count_);
+  nets_ = ObjectArray<Net>(net_count_);
   for (uint32_t i = 0; i < net_count_; ++i) {
     const Net& from = definition.nets_[i];
     Net& to = nets_[i];
@@ -30,7 +30,7 @@ Netlist::Netlist(const Netlist& definition, Cell* instance)
   }
   pin_count_ = definition.pin_count_;
   port_pin_count_ = definition.port_pin_count_;
-  pins_ = std::make_unique<Pin[]>(pin_count_);
+  pins_ = ObjectArray<Pin>(pin_count_);
   const uintptr_t own_tag = reinterpret_cast<uintptr_t>(this) | 1;
   for (uint32_t i = 0; i < pin_count_; ++i) {
     const Pin& from = definition.pins_[i];
@@ -124,7 +124,7 @@ uint32_t Netlist::CellPinCount(uint32_t cell_index) const {
 }
 
 NetPinRange Netlist::NetPins(uint32_t net_index) const {
-  const std::vector<uint32_t>& refs = definition_->net_pins_;
+  const PodArray<uint32_t>& refs = definition_->net_pins_;
   if (refs.empty()) return NetPinRange(pins_.get(), nullptr, nullptr);
   uint32_t first = nets_[net_index].first_pin_ref_;
   uint32_t last = net_index + 1 < net_count_ ? nets_[net_index + 1].first_pin_ref_

@@ -17,6 +17,7 @@
 #include "db/ModuleSource.h"
 #include "db/NameIndex.h"
 #include "db/NamePool.h"
+#include "db/PodArray.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
@@ -125,11 +126,11 @@ class Netlist {
   Cell* instance_ = nullptr;
   const Netlist* definition_;
 
-  std::unique_ptr<Cell[]> cells_;
+  ObjectArray<Cell> cells_;
   uint32_t cell_count_ = 0;
-  std::unique_ptr<Net[]> nets_;
+  ObjectArray<Net> nets_;
   uint32_t net_count_ = 0;
-  std::unique_ptr<Pin[]> pins_;
+  ObjectArray<Pin> pins_;
   uint32_t pin_count_ = 0;
   uint32_t port_pin_count_ = 0;
   std::unordered_map<uint32_t, Netlist*> children_;  // cell index -> copy
@@ -137,7 +138,7 @@ class Netlist {
 
   // Shared with the copies: held by the definition only.
   NamePool names_;
-  std::vector<uint32_t> net_pins_;                      // pin indices, grouped by net
+  PodArray<uint32_t> net_pins_;                         // pin indices, grouped by net
   std::vector<std::pair<uint32_t, uint32_t>> aliases_;  // name offset, net index
   uint32_t named_net_count_ = 0;
   uint32_t tie_net_[2] = {UINT32_MAX, UINT32_MAX};

@@ -54,7 +54,7 @@ bool NetlistEditor::Fill(Root* root, Netlist* netlist, ModuleDraft&& draft, std:
   }
   netlist->names_.ShrinkToFit();
   netlist->cell_count_ = cells;
-  netlist->cells_ = std::make_unique<Cell[]>(cells);
+  netlist->cells_ = ObjectArray<Cell>(cells);
   for (uint32_t i = 0; i < cells; ++i) {
     Cell& cell = netlist->cells_[i];
     cell.netlist_ = netlist;
@@ -65,7 +65,7 @@ bool NetlistEditor::Fill(Root* root, Netlist* netlist, ModuleDraft&& draft, std:
     netlist->cells_[entry.first].SetAttribute(std::move(entry.second));
   netlist->net_count_ = nets;
   netlist->named_net_count_ = named;
-  netlist->nets_ = std::make_unique<Net[]>(nets);
+  netlist->nets_ = ObjectArray<Net>(nets);
   for (uint32_t i = 0; i < named; ++i) {
     Net& net = netlist->nets_[i];
     net.netlist_ = netlist;
@@ -107,7 +107,7 @@ void NetlistEditor::BindCell(Netlist* netlist, uint32_t index, Reference* ref, i
 }
 
 void NetlistEditor::MakePins(Netlist* netlist, uint32_t count) {
-  netlist->pins_ = std::make_unique<Pin[]>(count);
+  netlist->pins_ = ObjectArray<Pin>(count);
   netlist->pin_count_ = count;
   netlist->port_pin_count_ = static_cast<uint32_t>(netlist->GetDesign()->Ports().size());
   netlist->net_pins_.clear();
@@ -130,7 +130,7 @@ void NetlistEditor::Connect(Pin* pin, uint32_t net_index) {
 
 void NetlistEditor::FinishLink(Netlist* netlist) {
   // Pins grouped by net, each group in pin order: a counting sort.
-  std::vector<uint32_t>& refs = netlist->net_pins_;
+  PodArray<uint32_t>& refs = netlist->net_pins_;
   const uint32_t nets = netlist->net_count_;
   std::vector<uint32_t> count(nets + 1, 0);
   uint32_t connected = 0;

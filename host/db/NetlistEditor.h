@@ -11,6 +11,7 @@
 
 #include "db/ModuleSource.h"
 #include "db/NamePool.h"
+#include "db/PodArray.h"
 #include "hostapi/cdm/Object.h"
 
 namespace cdm {
@@ -31,11 +32,11 @@ class UnresolvedReference;
 // What the reader gathers for one module before it becomes a definition.
 struct ModuleDraft {
   NamePool names;                                               // cell and net names
-  std::vector<uint32_t> cell_names;                             // offsets in `names`
-  std::vector<const std::string*> cell_refs;                    // interned reference names
+  PodArray<uint32_t> cell_names;                                // offsets in `names`
+  PodArray<const std::string*> cell_refs;                       // interned reference names
   std::vector<std::pair<uint32_t, Attribute>> cell_attributes;  // cell index, attribute
-  std::vector<uint32_t> net_names;                              // offsets in `names`
-  std::vector<int8_t> net_ties;                                 // -1, 0 or 1 per net
+  PodArray<uint32_t> net_names;                                 // offsets in `names`
+  PodArray<int8_t> net_ties;                                    // -1, 0 or 1 per net
   std::vector<std::pair<uint32_t, uint32_t>> aliases;           // name offset, net index
   ModuleSource source;
 };

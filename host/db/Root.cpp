@@ -13,7 +13,11 @@ Root::~Root() {
 }
 
 const std::string* Root::Intern(std::string_view name) {
-  return &*names_.emplace(name).first;
+  auto found = name_index_.find(name);
+  if (found != name_index_.end()) return found->second;
+  const std::string* kept = &names_.emplace_back(name);
+  name_index_.emplace(*kept, kept);
+  return kept;
 }
 
 LibertyLib* Root::GetLibertyLib(const std::string& name) const {

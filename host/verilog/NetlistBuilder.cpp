@@ -55,7 +55,10 @@ std::string BaseName(const std::string& path) {
 }  // namespace
 
 NetlistBuilder::NetlistBuilder(cdm::Root* root, std::string file_name)
-    : root_(root), file_name_(std::move(file_name)) {
+    : root_(root),
+      file_name_(std::move(file_name)),
+      symbol_index_([this](uint32_t i) { return NameOf(symbols_[i]); }),
+      instance_index_([this](uint32_t i) { return draft_.names.View(draft_.cell_names[i]); }) {
   owner_ = std::make_shared<cdm::Object>(root_->Intern(BaseName(file_name_)));
 }
 
@@ -67,22 +70,30 @@ bool NetlistBuilder::Fail(std::string message, uint32_t line) {
   return false;
 }
 
+bool NetlistBuilder::AddName(std::string_view name, uint32_t& offset) {
+  if (draft_.names.Add(name, offset)) return true;
+  return Fail("module '" + design_->Name() + "' has more names than fit in 1 GiB");
+}
+
 NetlistBuilder::Symbol* NetlistBuilder::FindSymbol(std::string_view name) {
   uint32_t index = symbol_index_.Find(name);
-  return index == NameTable::kNone ? nullptr : &symbols_[index];
+  return index == cdm::NameIndex::kNone ? nullptr : &symbols_[index];
 }
 
 uint32_t NetlistBuilder::Width(const Symbol& symbol) const {
-  if (!symbol.range.present) return 1;
-  return static_cast<uint32_t>(std::abs(symbol.range.msb - symbol.range.lsb)) + 1;
+  if (!symbol.ranged) return 1;
+  return static_cast<uint32_t>(std::abs(static_cast<int64_t>(symbol.msb) - symbol.lsb)) + 1;
 }
 
-NetlistBuilder::Symbol& NetlistBuilder::AddSymbol(std::string_view name, const Range& range,
+NetlistBuilder::Symbol* NetlistBuilder::AddSymbol(std::string_view name, const Range& range,
                                                   uint32_t line) {
   Symbol symbol;
-  symbol.name = name;
-  symbol.range = range;
-  symbol.line = line;
+  if (!AddName(name, symbol.name)) return nullptr;
+  symbol.ranged = range.present;
+  symbol.msb = range.msb;
+  symbol.lsb = range.lsb;
+  symbol.length = static_cast<uint32_t>(name.size());
+  (void)line;
   symbol.first_bit = static_cast<uint32_t>(bit_symbol_.size());
   uint32_t index = static_cast<uint32_t>(symbols_.size());
   uint32_t width = Width(symbol);
@@ -93,14 +104,14 @@ NetlistBuilder::Symbol& NetlistBuilder::AddSymbol(std::string_view name, const R
   }
   symbols_.push_back(symbol);
   symbol_index_.Insert(name, index);
-  return symbols_.back();
+  return &symbols_.back();
 }
 
 bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   std::string name(header.name);
   if (root_->FindDesign(name)) return Fail("module '" + name + "' is already loaded");
-  if (done_index_.Find(name) != NameTable::kNone)
-    return Fail("module '" + name + "' is defined twice");
+  for (const Finished& done : done_)
+    if (done.design->Name() == name) return Fail("module '" + name + "' is defined twice");
   design_ = std::make_unique<cdm::Design>(root_->Intern(name), owner_);
   cdm::Attribute line;
   line.id = cdm::AttrId::kSourceLine;
@@ -111,18 +122,22 @@ bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   draft_ = cdm::ModuleDraft();
   draft_.source.file = file_name_;
   draft_.source.line = header.line;
-  header_ports_ = header.ports;
   symbols_.clear();
-  symbol_index_.Clear();
-  instance_index_.Clear();
+  symbol_index_ = cdm::NameIndex([this](uint32_t i) { return NameOf(symbols_[i]); });
+  instance_index_ =
+      cdm::NameIndex([this](uint32_t i) { return draft_.names.View(draft_.cell_names[i]); });
   bit_symbol_.clear();
   parent_.clear();
   tie_.clear();
-  NameTable listed;
-  for (size_t i = 0; i < header_ports_.size(); ++i) {
-    if (listed.Find(header_ports_[i]) != NameTable::kNone)
-      return Fail("port '" + std::string(header_ports_[i]) + "' is listed twice");
-    listed.Insert(header_ports_[i], static_cast<uint32_t>(i));
+  header_ports_.clear();
+  cdm::NameIndex listed([&](uint32_t i) { return header.ports[i]; });
+  for (size_t i = 0; i < header.ports.size(); ++i) {
+    if (listed.Find(header.ports[i]) != cdm::NameIndex::kNone)
+      return Fail("port '" + std::string(header.ports[i]) + "' is listed twice");
+    listed.Insert(header.ports[i], static_cast<uint32_t>(i));
+    uint32_t offset = 0;
+    if (!AddName(header.ports[i], offset)) return false;
+    header_ports_.push_back(offset);
   }
   for (const DeclAst& decl : header.ansi_decls)
     if (!Declare(decl, {})) return false;
@@ -137,16 +152,17 @@ bool NetlistBuilder::Declare(const DeclAst& decl, const std::vector<AttrAst>&) {
   for (std::string_view name : decl.names) {
     Symbol* symbol = FindSymbol(name);
     if (!symbol) {
-      symbol = &AddSymbol(name, decl.range, decl.line);
+      symbol = AddSymbol(name, decl.range, decl.line);
+      if (!symbol) return false;
     } else if (!symbol->declared) {
       if (decl.range.present)
         return Fail("'" + std::string(name) +
                     "' is declared as a vector after its use as a scalar");
     } else {
       // A port may be declared once with its direction and once as a net.
-      bool same_range = symbol->range.present == decl.range.present &&
-                        (!decl.range.present || (symbol->range.msb == decl.range.msb &&
-                                                 symbol->range.lsb == decl.range.lsb));
+      bool same_range =
+          symbol->ranged == decl.range.present &&
+          (!decl.range.present || (symbol->msb == decl.range.msb && symbol->lsb == decl.range.lsb));
       bool pair = (direction >= 0) != (symbol->direction >= 0) && (direction >= 0 || !symbol->wire);
       if (!pair) return Fail("'" + std::string(name) + "' is declared twice");
       if (!same_range)
@@ -162,16 +178,16 @@ bool NetlistBuilder::Declare(const DeclAst& decl, const std::vector<AttrAst>&) {
 }
 
 bool NetlistBuilder::SymbolBit(const Symbol& symbol, int index, int32_t& bit) {
-  const Range& range = symbol.range;
-  if (!range.present)
-    return Fail("'" + std::string(symbol.name) + "' is a scalar and has no bit " +
+  if (!symbol.ranged)
+    return Fail("'" + std::string(NameOf(symbol)) + "' is a scalar and has no bit " +
                 std::to_string(index));
-  int low = std::min(range.msb, range.lsb), high = std::max(range.msb, range.lsb);
+  int low = std::min(symbol.msb, symbol.lsb), high = std::max(symbol.msb, symbol.lsb);
   if (index < low || index > high)
-    return Fail("bit " + std::to_string(index) + " is outside '" + std::string(symbol.name) + "[" +
-                std::to_string(range.msb) + ":" + std::to_string(range.lsb) + "]'");
-  int offset = range.msb >= range.lsb ? range.msb - index : index - range.msb;
-  bit = static_cast<int32_t>(symbol.first_bit) + offset;
+    return Fail("bit " + std::to_string(index) + " is outside '" + std::string(NameOf(symbol)) +
+                "[" + std::to_string(symbol.msb) + ":" + std::to_string(symbol.lsb) + "]'");
+  int64_t offset =
+      symbol.msb >= symbol.lsb ? int64_t{symbol.msb} - index : int64_t{index} - symbol.msb;
+  bit = static_cast<int32_t>(symbol.first_bit + offset);
   return true;
 }
 
@@ -192,7 +208,8 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
       return true;
     case Expr::kName: {
       Symbol* symbol = FindSymbol(expr.name);
-      if (!symbol) symbol = &AddSymbol(expr.name, Range(), expr.line);  // implicit net
+      if (!symbol) symbol = AddSymbol(expr.name, Range(), expr.line);  // implicit net
+      if (!symbol) return false;
       uint32_t width = Width(*symbol);
       if (!RoomFor(bits, width)) return false;
       for (uint32_t i = 0; i < width; ++i)
@@ -222,15 +239,13 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
 }
 
 bool NetlistBuilder::Instance(const InstanceAst& inst) {
-  if (instance_index_.Find(inst.name) != NameTable::kNone)
+  uint32_t index = static_cast<uint32_t>(draft_.cell_names.size());
+  uint32_t name = 0;
+  if (!AddName(inst.name, name)) return false;
+  draft_.cell_names.push_back(name);
+  if (instance_index_.Insert(inst.name, index) != index)
     return Fail("instance '" + std::string(inst.name) + "' is defined twice in module '" +
                 design_->Name() + "'");
-  uint32_t index = static_cast<uint32_t>(draft_.cell_names.size());
-  instance_index_.Insert(inst.name, index);
-  uint32_t name = 0;
-  if (!draft_.names.Add(inst.name, name))
-    return Fail("module '" + design_->Name() + "' has more names than fit in 1 GiB");
-  draft_.cell_names.push_back(name);
   draft_.cell_refs.push_back(root_->Intern(inst.ref));
   for (const AttrAst& attr : inst.attrs)
     draft_.cell_attributes.emplace_back(index, MakeAttribute(attr));
@@ -290,35 +305,35 @@ bool NetlistBuilder::Assign(const AssignAst& assign) {
 
 std::string NetlistBuilder::BitName(uint32_t bit) const {
   const Symbol& symbol = symbols_[bit_symbol_[bit]];
-  if (!symbol.range.present) return std::string(symbol.name);
-  int offset = static_cast<int>(bit - symbol.first_bit);
-  int index =
-      symbol.range.msb >= symbol.range.lsb ? symbol.range.msb - offset : symbol.range.msb + offset;
-  return std::string(symbol.name) + "[" + std::to_string(index) + "]";
+  if (!symbol.ranged) return std::string(NameOf(symbol));
+  int64_t offset = bit - symbol.first_bit;
+  int64_t index = symbol.msb >= symbol.lsb ? symbol.msb - offset : symbol.msb + offset;
+  return std::string(NameOf(symbol)) + "[" + std::to_string(index) + "]";
 }
 
 bool NetlistBuilder::FinishPorts() {
-  NameTable listed;
+  cdm::NameIndex listed([&](uint32_t i) { return draft_.names.View(header_ports_[i]); });
   for (size_t i = 0; i < header_ports_.size(); ++i)
-    listed.Insert(header_ports_[i], static_cast<uint32_t>(i));
+    listed.Insert(draft_.names.View(header_ports_[i]), static_cast<uint32_t>(i));
   for (const Symbol& symbol : symbols_) {
     if (symbol.direction < 0) continue;
-    if (listed.Find(symbol.name) == NameTable::kNone)
-      return Fail("'" + std::string(symbol.name) + "' is declared " +
+    if (listed.Find(NameOf(symbol)) == cdm::NameIndex::kNone)
+      return Fail("'" + std::string(NameOf(symbol)) + "' is declared " +
                   DirectionWord(symbol.direction) + " but is not in the port list of module '" +
                   design_->Name() + "'");
   }
-  for (std::string_view name : header_ports_) {
+  for (uint32_t offset : header_ports_) {
+    std::string_view name = draft_.names.View(offset);
     Symbol* symbol = FindSymbol(name);
     if (!symbol || symbol->direction < 0)
       return Fail("port '" + std::string(name) + "' of module '" + design_->Name() +
                   "' has no direction");
     uint8_t direction = static_cast<uint8_t>(symbol->direction);
     cdm::DesignPortBus* bus = nullptr;
-    if (symbol->range.present)
+    if (symbol->ranged)
       bus = cdm::NetlistEditor::AddPortBus(
-          design_.get(), std::make_unique<cdm::DesignPortBus>(
-                             root_->Intern(name), direction, symbol->range.msb, symbol->range.lsb));
+          design_.get(), std::make_unique<cdm::DesignPortBus>(root_->Intern(name), direction,
+                                                              symbol->msb, symbol->lsb));
     for (uint32_t i = 0; i < Width(*symbol); ++i) {
       uint32_t bit = symbol->first_bit + i;
       cdm::NetlistEditor::AddPort(
@@ -331,66 +346,90 @@ bool NetlistBuilder::FinishPorts() {
 
 bool NetlistBuilder::FinishNets() {
   size_t count = bit_symbol_.size();
-  std::vector<int32_t> preferred(count, -1), class_tie(count, -1), net_of(count, -1);
+  // Per class of bits joined by assigns (kept at its root bit): the bit
+  // that names it (a port's first), its tie, its net.
+  struct Class {
+    int32_t preferred = -1;
+    int32_t tie = -1;
+    int32_t net = -1;
+  };
+  cdm::PodArray<Class> classes;
+  classes.resize(count);
   for (uint32_t bit = 0; bit < count; ++bit) {
-    int32_t root = FindRoot(static_cast<int32_t>(bit));
+    Class& group = classes[FindRoot(static_cast<int32_t>(bit))];
     bool is_port = symbols_[bit_symbol_[bit]].direction >= 0;
-    int32_t& pick = preferred[root];
-    if (pick < 0 || (is_port && symbols_[bit_symbol_[pick]].direction < 0))
-      pick = static_cast<int32_t>(bit);
+    if (group.preferred < 0 || (is_port && symbols_[bit_symbol_[group.preferred]].direction < 0))
+      group.preferred = static_cast<int32_t>(bit);
     if (tie_[bit] >= 0) {
-      if (class_tie[root] >= 0 && class_tie[root] != tie_[bit])
+      if (group.tie >= 0 && group.tie != tie_[bit])
         return Fail("net '" + BitName(bit) + "' is tied to both 0 and 1");
-      class_tie[root] = tie_[bit];
+      group.tie = tie_[bit];
     }
   }
-  std::vector<int32_t> bit_net(count, -1);
+  // A scalar's name is in the pool already; a bus bit gets "name[i]".
+  auto bit_name = [&](uint32_t bit, uint32_t& offset) {
+    const Symbol& symbol = symbols_[bit_symbol_[bit]];
+    if (!symbol.ranged) {
+      offset = symbol.name;
+      return true;
+    }
+    return AddName(BitName(bit), offset);
+  };
+  cdm::PodArray<int32_t> bit_net;
+  bit_net.assign(count, -1);
   int32_t next_net = 0;
   for (uint32_t bit = 0; bit < count; ++bit) {
-    int32_t root = FindRoot(static_cast<int32_t>(bit));
-    if (net_of[root] < 0) {
+    Class& group = classes[FindRoot(static_cast<int32_t>(bit))];
+    if (group.net < 0) {
       uint32_t name = 0;
-      if (!draft_.names.Add(BitName(preferred[root]), name))
-        return Fail("module '" + design_->Name() + "' has more names than fit in 1 GiB");
+      if (!bit_name(static_cast<uint32_t>(group.preferred), name)) return false;
       draft_.net_names.push_back(name);
-      draft_.net_ties.push_back(static_cast<int8_t>(class_tie[root]));
-      net_of[root] = next_net++;
+      draft_.net_ties.push_back(static_cast<int8_t>(group.tie));
+      group.net = next_net++;
     }
-    bit_net[bit] = net_of[root];
-    if (static_cast<int32_t>(bit) != preferred[root]) {
+    bit_net[bit] = group.net;
+    if (static_cast<int32_t>(bit) != group.preferred) {
       uint32_t alias = 0;
-      if (!draft_.names.Add(BitName(bit), alias))
-        return Fail("module '" + design_->Name() + "' has more names than fit in 1 GiB");
-      draft_.aliases.emplace_back(alias, static_cast<uint32_t>(net_of[root]));
+      if (!bit_name(bit, alias)) return false;
+      draft_.aliases.emplace_back(alias, static_cast<uint32_t>(group.net));
     }
   }
-  draft_.source.MapBits(bit_net);
+  draft_.source.SetBitMap(std::move(bit_net));
   for (const Symbol& symbol : symbols_)
-    if (symbol.range.present && symbol.direction < 0)
+    if (symbol.ranged && symbol.direction < 0)
       cdm::NetlistEditor::AddNetBus(
-          design_.get(), std::make_unique<cdm::DesignNetBus>(root_->Intern(symbol.name),
-                                                             symbol.range.msb, symbol.range.lsb));
+          design_.get(), std::make_unique<cdm::DesignNetBus>(root_->Intern(NameOf(symbol)),
+                                                             symbol.msb, symbol.lsb));
   return true;
 }
 
 bool NetlistBuilder::EndModule(uint32_t) {
   if (!FinishPorts() || !FinishNets()) return false;
-  std::string error;
-  if (!cdm::NetlistEditor::Fill(root_, design_->GetNetlist(), std::move(draft_), error))
-    return Fail(error);
-  done_index_.Insert(design_->Name(), static_cast<uint32_t>(done_.size()));
-  done_.push_back(std::move(design_));
+  done_.push_back(Finished{std::move(design_), std::move(draft_)});
+  draft_ = cdm::ModuleDraft();
   return true;
 }
 
-std::vector<std::string> NetlistBuilder::Commit() {
-  std::vector<std::string> names;
-  for (auto& design : done_) {
-    names.push_back(design->Name());
-    root_->AddDesign(std::move(design));
+bool NetlistBuilder::Commit(std::vector<std::string>& names, std::string& error) {
+  // The reading state goes first: the definitions take its place.
+  symbols_.clear();
+  symbol_index_ = cdm::NameIndex([](uint32_t) { return std::string_view(); });
+  instance_index_ = cdm::NameIndex([](uint32_t) { return std::string_view(); });
+  bit_symbol_.clear();
+  parent_.clear();
+  tie_.clear();
+  for (Finished& done : done_)
+    if (!cdm::NetlistEditor::Fill(root_, done.design->GetNetlist(), std::move(done.draft), error)) {
+      done_.clear();
+      return false;
+    }
+  names.clear();
+  for (Finished& done : done_) {
+    names.push_back(done.design->Name());
+    root_->AddDesign(std::move(done.design));
   }
   done_.clear();
-  return names;
+  return true;
 }
 
 }  // namespace verilog

@@ -1,6 +1,7 @@
 // Second layer of the netlist reader: statements to designs. Designs are
 // kept aside until the whole file has been read, so that a file with an
-// error adds nothing to the database.
+// error adds nothing to the database. Nothing here points into the text:
+// names are copied as they are met, so the text may go before Commit.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "db/NameIndex.h"
 #include "db/NetlistEditor.h"
-#include "verilog/NameTable.h"
 #include "verilog/VerilogAst.h"
 
 namespace cdm {
@@ -35,25 +36,32 @@ class NetlistBuilder : public StatementSink {
   // The complaint behind the last false return.
   const std::string& Error() const override { return error_; }
   uint32_t ErrorLine() const override { return error_line_; }
-  // Hands the finished designs to the root; returns their names in order.
-  std::vector<std::string> Commit();
+  // Makes the finished modules designs of the root; returns their names in
+  // order. False with `error` (and nothing added) when one is beyond the
+  // database's limits.
+  bool Commit(std::vector<std::string>& names, std::string& error);
 
  private:
+  // A declared or implied name of the module being read.
   struct Symbol {
-    std::string_view name;
-    uint32_t first_bit = 0;
-    Range range;
+    uint32_t name = 0;       // offset in the module's name pool
+    uint32_t length = 0;     // of the name
+    uint32_t first_bit = 0;  // its bits are first_bit .. first_bit + width - 1
+    int32_t msb = 0, lsb = 0;
     int8_t direction = -1;  // -1 none, else 0 in, 1 out, 2 inout
-    bool in_header = false;
+    bool ranged = false;
     bool declared = false;  // explicitly, not implied by use
     bool wire = false;      // declared by a net keyword
-    uint32_t line = 0;
   };
 
   bool Fail(std::string message, uint32_t line = 0);
+  std::string_view NameOf(const Symbol& symbol) const {
+    return std::string_view(draft_.names.Data() + symbol.name, symbol.length);
+  }
   Symbol* FindSymbol(std::string_view name);
-  Symbol& AddSymbol(std::string_view name, const Range& range, uint32_t line);
+  Symbol* AddSymbol(std::string_view name, const Range& range, uint32_t line);
   uint32_t Width(const Symbol& symbol) const;
+  bool AddName(std::string_view name, uint32_t& offset);
   // Bits of an expression, most significant first: bit ids, or the
   // constants of ModuleSource. Undeclared plain names become scalar nets.
   // False, with the error set, when `more` bits would make `bits` longer
@@ -71,21 +79,24 @@ class NetlistBuilder : public StatementSink {
   std::shared_ptr<cdm::Object> owner_;
   std::string error_;
   uint32_t error_line_ = 0;
-  std::vector<std::unique_ptr<cdm::Design>> done_;
-  NameTable done_index_;  // names of `done_`, views into their designs
+  struct Finished {
+    std::unique_ptr<cdm::Design> design;
+    cdm::ModuleDraft draft;
+  };
+  std::vector<Finished> done_;
 
   // The module being read.
   std::unique_ptr<cdm::Design> design_;
-  std::vector<std::string_view> header_ports_;
-  std::vector<Symbol> symbols_;
-  NameTable symbol_index_;
-  NameTable instance_index_;
-  std::vector<uint32_t> bit_symbol_;  // bit -> symbol
-  std::vector<int32_t> parent_;       // union-find over bits
-  std::vector<int8_t> tie_;           // per bit: -1, 0 or 1 from assigns
+  cdm::ModuleDraft draft_;
+  std::vector<uint32_t> header_ports_;  // name offsets, in header order
+  cdm::PodArray<Symbol> symbols_;
+  cdm::NameIndex symbol_index_;
+  cdm::NameIndex instance_index_;
+  cdm::PodArray<uint32_t> bit_symbol_;  // bit -> symbol
+  cdm::PodArray<int32_t> parent_;       // union-find over bits
+  cdm::PodArray<int8_t> tie_;           // per bit: -1, 0 or 1 from assigns
   std::vector<int32_t> scratch_lhs_, scratch_rhs_;
   std::vector<const std::string*> scratch_ports_;
-  cdm::ModuleDraft draft_;
 };
 
 }  // namespace verilog

@@ -1,22 +1,53 @@
 #include "verilog/VerilogLexer.h"
 
-#include <cctype>
+#include <cstdint>
 
 namespace verilog {
 namespace {
 
+// Character classes by table: the lexer asks for every byte of the file.
+enum CharClass : uint8_t {
+  kIdentStart = 1,
+  kIdentChar = 2,
+  kBlank = 4,
+  kBaseDigit = 8,
+  kDigit = 16
+};
+
+struct CharTable {
+  uint8_t classes[256] = {};
+  constexpr CharTable() {
+    for (int c = 'a'; c <= 'z'; ++c) classes[c] |= kIdentStart | kIdentChar;
+    for (int c = 'A'; c <= 'Z'; ++c) classes[c] |= kIdentStart | kIdentChar;
+    for (int c = '0'; c <= '9'; ++c) classes[c] |= kIdentChar | kBaseDigit | kDigit;
+    classes[static_cast<int>('_')] |= kIdentStart | kIdentChar | kBaseDigit;
+    classes[static_cast<int>('$')] |= kIdentChar;
+    for (int c = 'a'; c <= 'f'; ++c) classes[c] |= kBaseDigit;
+    for (int c = 'A'; c <= 'F'; ++c) classes[c] |= kBaseDigit;
+    for (char c : {'x', 'X', 'z', 'Z', '?'}) classes[static_cast<unsigned char>(c)] |= kBaseDigit;
+    for (char c : {' ', '\t', '\r', '\n', '\f', '\v'})
+      classes[static_cast<unsigned char>(c)] |= kBlank;
+  }
+};
+constexpr CharTable kChars;
+
+bool Is(char c, CharClass which) {
+  return (kChars.classes[static_cast<unsigned char>(c)] & which) != 0;
+}
 bool IsIdentStart(char c) {
-  return std::isalpha(static_cast<unsigned char>(c)) || c == '_';
+  return Is(c, kIdentStart);
 }
 bool IsIdentChar(char c) {
-  return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '$';
+  return Is(c, kIdentChar);
 }
 bool IsBlank(char c) {
-  return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f' || c == '\v';
+  return Is(c, kBlank);
 }
 bool IsDigitOfBase(char c) {
-  return std::isxdigit(static_cast<unsigned char>(c)) || c == '_' || c == 'x' || c == 'X' ||
-         c == 'z' || c == 'Z' || c == '?';
+  return Is(c, kBaseDigit);
+}
+bool IsDigit(char c) {
+  return Is(c, kDigit);
 }
 
 }  // namespace
@@ -84,9 +115,7 @@ bool VerilogLexer::SkipBlanksAndComments(Token& error) {
 Token VerilogLexer::ScanNumber(size_t start) {
   const size_t size = buffer_.size();
   // Size (decimal digits) or nothing, then maybe ' base digits.
-  while (pos_ < size &&
-         (std::isdigit(static_cast<unsigned char>(buffer_[pos_])) || buffer_[pos_] == '_'))
-    ++pos_;
+  while (pos_ < size && (IsDigit(buffer_[pos_]) || buffer_[pos_] == '_')) ++pos_;
   size_t save = pos_;
   uint32_t save_line = line_;
   while (pos_ < size && IsBlank(buffer_[pos_])) {
@@ -131,7 +160,7 @@ Token VerilogLexer::Scan() {
       return Token{TokenKind::kError, false, "empty escaped identifier", line_};
     return Token{TokenKind::kIdentifier, true, buffer_.substr(start + 1, pos_ - start - 1), line_};
   }
-  if (std::isdigit(static_cast<unsigned char>(c)) || c == '\'') return ScanNumber(start);
+  if (IsDigit(c) || c == '\'') return ScanNumber(start);
   if (c == '"') {
     ++pos_;
     while (pos_ < size && buffer_[pos_] != '"' && buffer_[pos_] != '\n') {

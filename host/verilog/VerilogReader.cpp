@@ -9,19 +9,26 @@
 #include "verilog/VerilogParser.h"
 
 namespace verilog {
+namespace {
 
-bool ReadVerilogText(cdm::Root* root, const std::string& text, const std::string& file_name,
-                     std::vector<std::string>& modules, std::string& error) {
+// Parses `text` into `builder`; `text` may go once this returns.
+bool Parse(const std::string& text, const std::string& file_name, NetlistBuilder& builder,
+           std::string& error) {
   VerilogLexer lexer(text);
-  NetlistBuilder builder(root, file_name);
   VerilogParser parser(lexer, builder);
   ParseError parse_error;
-  if (!parser.Parse(parse_error)) {
-    error = file_name + ":" + std::to_string(parse_error.line) + ": " +
-            msg::CutQuotes(parse_error.message);
+  if (parser.Parse(parse_error)) return true;
+  error = file_name + ":" + std::to_string(parse_error.line) + ": " +
+          msg::CutQuotes(parse_error.message);
+  return false;
+}
+
+bool Commit(NetlistBuilder& builder, const std::string& file_name,
+            std::vector<std::string>& modules, std::string& error) {
+  if (!builder.Commit(modules, error)) {
+    error = file_name + ": " + error;
     return false;
   }
-  modules = builder.Commit();
   if (modules.empty()) {
     error = file_name + ": no module found";
     return false;
@@ -29,12 +36,24 @@ bool ReadVerilogText(cdm::Root* root, const std::string& text, const std::string
   return true;
 }
 
+}  // namespace
+
+bool ReadVerilogText(cdm::Root* root, const std::string& text, const std::string& file_name,
+                     std::vector<std::string>& modules, std::string& error) {
+  NetlistBuilder builder(root, file_name);
+  return Parse(text, file_name, builder, error) && Commit(builder, file_name, modules, error);
+}
+
 bool ReadVerilogFile(cdm::Root* root, const std::string& path, std::vector<std::string>& modules,
                      std::string& error) {
   try {
-    std::string text;
-    if (!ReadSourceFile(path, text, error)) return false;
-    return ReadVerilogText(root, text, path, modules, error);
+    NetlistBuilder builder(root, path);
+    {
+      std::string text;
+      if (!ReadSourceFile(path, text, error)) return false;
+      if (!Parse(text, path, builder, error)) return false;
+    }  // the text goes before the definitions are made
+    return Commit(builder, path, modules, error);
   } catch (const std::bad_alloc&) {
     // The modules are added only once all of the file is read.
     error = "out of memory while reading '" + path + "'; no module was added";

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -70,7 +71,8 @@ class Root {
   // Takes ownership of any database object (libraries, designs).
   void Own(std::unique_ptr<Object> object) { owned_.push_back(std::move(object)); }
 
-  std::unordered_set<std::string> names_;  // node-based: pointers stay valid
+  std::deque<std::string> names_;  // pointers stay valid as it grows
+  std::unordered_map<std::string_view, const std::string*> name_index_;
   std::vector<std::unique_ptr<Object>> owned_;
   std::vector<LibertyLib*> liberty_libs_;
   LibertyLib* default_liberty_ = nullptr;

@@ -1,0 +1,160 @@
+// Growable arrays for the large, plain data of a netlist (names, connection
+// streams, index arrays). A large array grows in place through realloc
+// (which remaps the pages instead of copying them) and asks the kernel for
+// huge pages, so that a million-instance design costs few page faults and
+// TLB misses. Only for trivially copyable element types.
+#pragma once
+
+#include <cstddef>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <type_traits>
+#include <utility>
+
+namespace cdm {
+
+// Asks for huge pages over the whole 2 MiB pages inside [data, data+bytes).
+void AdviseHugePages(void* data, size_t bytes);
+
+template <class T>
+class PodArray {
+  static_assert(std::is_trivially_copyable<T>::value, "PodArray holds plain data only");
+
+ public:
+  PodArray() = default;
+  ~PodArray() { std::free(data_); }
+  PodArray(const PodArray& other) { *this = other; }
+  PodArray& operator=(const PodArray& other) {
+    if (this != &other) {
+      clear();
+      reserve(other.size_);
+      if (other.size_) std::memcpy(data_, other.data_, other.size_ * sizeof(T));
+      size_ = other.size_;
+    }
+    return *this;
+  }
+  PodArray(PodArray&& other) noexcept { swap(other); }
+  PodArray& operator=(PodArray&& other) noexcept {
+    PodArray(std::move(other)).swap(*this);
+    return *this;
+  }
+  void swap(PodArray& other) noexcept {
+    std::swap(data_, other.data_);
+    std::swap(size_, other.size_);
+    std::swap(capacity_, other.capacity_);
+  }
+
+  size_t size() const { return size_; }
+  bool empty() const { return size_ == 0; }
+  size_t capacity() const { return capacity_; }
+  T* data() { return data_; }
+  const T* data() const { return data_; }
+  T& operator[](size_t i) { return data_[i]; }
+  const T& operator[](size_t i) const { return data_[i]; }
+  T* begin() { return data_; }
+  T* end() { return data_ + size_; }
+  const T* begin() const { return data_; }
+  const T* end() const { return data_ + size_; }
+  T& back() { return data_[size_ - 1]; }
+
+  void push_back(const T& value) {
+    if (size_ == capacity_) Grow(size_ + 1);
+    data_[size_++] = value;
+  }
+  void append(const T* values, size_t count) {
+    if (size_ + count > capacity_) Grow(size_ + count);
+    if (count) std::memcpy(data_ + size_, values, count * sizeof(T));
+    size_ += count;
+  }
+  // New elements are set to `value`.
+  void resize(size_t count, const T& value = T()) {
+    if (count > capacity_) Reallocate(count);
+    for (size_t i = size_; i < count; ++i) data_[i] = value;
+    size_ = count;
+  }
+  void assign(size_t count, const T& value) {
+    size_ = 0;
+    resize(count, value);
+  }
+  void reserve(size_t count) {
+    if (count > capacity_) Reallocate(count);
+  }
+  void clear() {
+    std::free(data_);
+    data_ = nullptr;
+    size_ = capacity_ = 0;
+  }
+  void shrink_to_fit() {
+    if (size_ == 0)
+      clear();
+    else if (size_ < capacity_)
+      Reallocate(size_);
+  }
+
+ private:
+  void Grow(size_t needed) {
+    size_t next = capacity_ ? capacity_ * 2 : 16;
+    Reallocate(next < needed ? needed : next);
+  }
+  void Reallocate(size_t count) {
+    void* grown = std::realloc(data_, count * sizeof(T));
+    if (!grown) throw std::bad_alloc();
+    data_ = static_cast<T*>(grown);
+    capacity_ = count;
+    AdviseHugePages(data_, count * sizeof(T));
+  }
+
+  T* data_ = nullptr;
+  size_t size_ = 0;
+  size_t capacity_ = 0;
+};
+
+}  // namespace cdm
+
+namespace cdm {
+
+// A fixed-size array of objects made once (cells, nets, pins): placed in
+// memory that asks for huge pages, destroyed and freed together.
+template <class T>
+class ObjectArray {
+ public:
+  ObjectArray() = default;
+  explicit ObjectArray(size_t count) : count_(count) {
+    if (!count) return;
+    void* raw = std::malloc(count * sizeof(T));
+    if (!raw) throw std::bad_alloc();
+    AdviseHugePages(raw, count * sizeof(T));
+    items_ = static_cast<T*>(raw);
+    for (size_t i = 0; i < count; ++i) new (items_ + i) T();
+  }
+  ~ObjectArray() { Reset(); }
+  ObjectArray(const ObjectArray&) = delete;
+  ObjectArray& operator=(const ObjectArray&) = delete;
+  ObjectArray(ObjectArray&& other) noexcept { Swap(other); }
+  ObjectArray& operator=(ObjectArray&& other) noexcept {
+    ObjectArray(std::move(other)).Swap(*this);
+    return *this;
+  }
+  void Swap(ObjectArray& other) noexcept {
+    std::swap(items_, other.items_);
+    std::swap(count_, other.count_);
+  }
+
+  T* get() const { return items_; }
+  T& operator[](size_t i) const { return items_[i]; }
+  size_t size() const { return count_; }
+
+ private:
+  void Reset() {
+    for (size_t i = count_; i-- > 0;) items_[i].~T();
+    std::free(items_);
+    items_ = nullptr;
+    count_ = 0;
+  }
+
+  T* items_ = nullptr;
+  size_t count_ = 0;
+};
+
+}  // namespace cdm
