@@ -52,6 +52,7 @@ class LibEditor {
   bool ThresholdOrDefault(const Statement& st, bool& handled);
   bool OperatingConditionsGroup(const Statement& st);
   bool WireLoadGroup(const Statement& st);
+  bool WireLoadSelectionGroup(const Statement& st);
   bool TemplateGroup(const Statement& st, TemplateClass kind);
   bool ScalingFactorsGroup(const Statement& st, LibScaleFactor& factors);
   bool TypeGroup(const Statement& st);

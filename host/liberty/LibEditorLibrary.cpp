@@ -198,6 +198,24 @@ bool LibEditor::OperatingConditionsGroup(const Statement& st) {
   return true;
 }
 
+bool LibEditor::WireLoadSelectionGroup(const Statement& st) {
+  if (!NeedValues(st, 1)) return false;
+  auto selection = std::make_unique<WireLoadSelection>();
+  selection->name = std::string(st.Value());
+  selection->library = lib_;
+  for (const Statement& child : st.children) {
+    if (child.name != "wire_load_from_area") continue;
+    WireLoadSelection::Range range{0.0, 0.0, std::string()};
+    if (!NeedValues(child, 3) || !Number(child, range.min_area, 0) ||
+        !Number(child, range.max_area, 1))
+      return false;
+    range.wire_load = std::string(child.values[2].text);
+    selection->ranges.push_back(std::move(range));
+  }
+  lib_->wire_load_selections_.push_back(std::move(selection));
+  return true;
+}
+
 bool LibEditor::WireLoadGroup(const Statement& st) {
   if (!NeedValues(st, 1)) return false;
   auto wire_load = std::make_unique<WireLoad>();
@@ -308,6 +326,7 @@ bool LibEditor::LibraryStatement(const Statement& st) {
     if (name == "cell") return CellGroup(st);
     if (name == "operating_conditions") return OperatingConditionsGroup(st);
     if (name == "wire_load") return WireLoadGroup(st);
+    if (name == "wire_load_selection") return WireLoadSelectionGroup(st);
     if (name == "lu_table_template") return TemplateGroup(st, TemplateClass::kDelay);
     if (name == "power_lut_template") return TemplateGroup(st, TemplateClass::kPower);
     if (name == "type") return TypeGroup(st);
@@ -349,6 +368,8 @@ bool LibEditor::LibraryStatement(const Statement& st) {
     lib.default_op_cond_ = value;
   } else if (name == "default_wire_load") {
     lib.default_wire_load_ = value;
+  } else if (name == "default_wire_load_selection") {
+    lib.default_wire_load_selection_ = value;
   } else if (name == "default_wire_load_mode") {
     if (!ParseWireLoadMode(value, lib.wire_load_mode_)) {
       return Fail(st, "expected top, enclosed or segmented, found '" + value + "'");

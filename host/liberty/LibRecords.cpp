@@ -24,6 +24,12 @@ double WireLoad::LengthFor(int fanout) const {
   return last->second;
 }
 
+const std::string* WireLoadSelection::WireLoadFor(double area) const {
+  for (const Range& range : ranges)
+    if (range.min_area <= area && area <= range.max_area) return &range.wire_load;
+  return nullptr;
+}
+
 TableAxisVariable LibTableTemplate::GetVariableType(int i) const {
   if (i < 1 || i > GetAxisCount()) return TableAxisVariable::kUnknown;
   return variables[i - 1];

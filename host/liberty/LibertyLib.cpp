@@ -51,6 +51,17 @@ const WireLoad* LibertyLib::GetDefaultWireLoad() const {
   return default_wire_load_.empty() ? nullptr : GetWireLoad(default_wire_load_);
 }
 
+const WireLoadSelection* LibertyLib::GetWireLoadSelection(const std::string& name) const {
+  for (const auto& selection : wire_load_selections_)
+    if (selection->name == name) return selection.get();
+  return nullptr;
+}
+
+const WireLoadSelection* LibertyLib::GetDefaultWireLoadSelection() const {
+  return default_wire_load_selection_.empty() ? nullptr
+                                              : GetWireLoadSelection(default_wire_load_selection_);
+}
+
 std::vector<const LibTableTemplate*> LibertyLib::GetAllTableTemplates(TemplateClass kind) const {
   std::vector<const LibTableTemplate*> all;
   for (const auto& table : templates_) {

@@ -40,6 +40,24 @@ class WireLoad {
   double LengthFor(int fanout) const;
 };
 
+// A `wire_load_selection` group: which wire load a design takes by its
+// area (`wire_load_from_area (min, max, name)` entries).
+class WireLoadSelection {
+ public:
+  struct Range {
+    double min_area;
+    double max_area;
+    std::string wire_load;
+  };
+  std::string name;
+  LibertyLib* library = nullptr;  // the library that holds the group
+  std::vector<Range> ranges;      // in file order
+
+  // The wire load of the first range with min <= area <= max; null when
+  // no range holds the area.
+  const std::string* WireLoadFor(double area) const;
+};
+
 // A `lu_table_template` or `power_lut_template` group.
 class LibTableTemplate {
  public:

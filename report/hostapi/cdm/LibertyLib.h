@@ -58,6 +58,9 @@ class LibertyLib : public Lib {
   const WireLoad* GetWireLoad(const std::string& name) const;
   const WireLoad* GetDefaultWireLoad() const;
   WireLoadMode GetDefaultWireloadMode() const { return wire_load_mode_; }
+  // `wire_load_selection` groups by name, and `default_wire_load_selection`.
+  const WireLoadSelection* GetWireLoadSelection(const std::string& name) const;
+  const WireLoadSelection* GetDefaultWireLoadSelection() const;
 
   // Thresholds, in percent as written; nominal values and the voltage map
   // as written (the voltage map in the library's voltage unit).
@@ -119,6 +122,8 @@ class LibertyLib : public Lib {
   std::vector<std::unique_ptr<WireLoad>> wire_loads_;
   std::string default_wire_load_;
   WireLoadMode wire_load_mode_ = WireLoadMode::kTop;
+  std::vector<std::unique_ptr<WireLoadSelection>> wire_load_selections_;
+  std::string default_wire_load_selection_;
   double input_threshold_[2] = {50.0, 50.0};
   double output_threshold_[2] = {50.0, 50.0};
   double slew_lower_[2] = {20.0, 20.0};

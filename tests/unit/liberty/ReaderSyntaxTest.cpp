@@ -120,6 +120,9 @@ TEST(ReaderSyntax, LibraryAttributesUnitsAndDefaults) {
       "  wire_load(small) { resistance : 2; capacitance : 3; slope : 4; fanout_length(1, 1.5); "
       "fanout_length(2, 2.5); }\n"
       "  default_wire_load : small;\n"
+      "  wire_load_selection(by_area) { wire_load_from_area(0, 100, small); "
+      "wire_load_from_area(100, 500, \"big\"); }\n"
+      "  default_wire_load_selection : by_area;\n"
       "  define(drive_strength, cell, float);\n"
       "  k_volt_cell_rise : 1.5;\n"
       "  k_temp_pin_cap : 0.25;\n"
@@ -153,6 +156,14 @@ TEST(ReaderSyntax, LibraryAttributesUnitsAndDefaults) {
   EXPECT_EQ(cdm::to_string(lib.GetDefaultOperatingConditions()->tree), "worst_case_tree");
   ASSERT_TRUE(lib.GetDefaultWireLoad());
   EXPECT_EQ(lib.GetDefaultWireLoad()->library, &lib);
+  const cdm::WireLoadSelection* selection = lib.GetDefaultWireLoadSelection();
+  ASSERT_TRUE(selection);
+  EXPECT_EQ(selection, lib.GetWireLoadSelection("by_area"));
+  EXPECT_EQ(selection->library, &lib);
+  ASSERT_TRUE(selection->WireLoadFor(50.0f));
+  EXPECT_EQ(*selection->WireLoadFor(50.0f), "small");
+  EXPECT_EQ(*selection->WireLoadFor(250.0f), "big");
+  EXPECT_EQ(selection->WireLoadFor(600.0f), nullptr);
   EXPECT_FLOAT_EQ(lib.GetDefaultWireLoad()->LengthFor(2), 2.5f);
   EXPECT_FLOAT_EQ(lib.GetDefaultWireLoad()->LengthFor(4), 2.5f + 2 * 4.0f);
   ASSERT_EQ(lib.GetUserDefinedAttrs().count("drive_strength"), 1u);
