@@ -11,12 +11,18 @@ const CatalogueEntry kCatalogue[] = {
     {QUERY_001, Severity::kWarning, "No %s matched '%s'"},
     {Report_001, Severity::kInfo, "%s: option '%s' is accepted and ignored by this tool."},
     {Report_002, Severity::kWarning, "Cannot find port '%s' in design '%s'."},
+    {SDC_001, Severity::kWarning, "%s: no %s matches '%s'."},
+    {SDC_002, Severity::kWarning, "%s: %s '%s' is no %s; it is left out."},
     {SDC_003, Severity::kWarning, "Dropped %s on %s '%s': it no longer exists in design '%s'."},
     {SDC_004, Severity::kWarning,
      "Dropped clock '%s': none of its sources exists in design '%s' any more."},
     {SDC_005, Severity::kWarning,
      "Dropped a timing exception of design '%s': all objects of one of its -from, -through "
      "or -to lists are gone."},
+    {SDC_006, Severity::kWarning, "%s is accepted but not modelled; its settings are ignored."},
+    {SDC_007, Severity::kWarning,
+     "%s: clock '%s' is replaced by '%s' on all its sources; it is removed with the "
+     "constraints relative to it."},
     {STA_001, Severity::kWarning,
      "Combinational loop cut at the arc from '%s' to '%s'; the loop's pins: %s."},
 };

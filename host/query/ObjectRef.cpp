@@ -39,6 +39,30 @@ const char* KindName(ObjectKind kind) {
   return "object";
 }
 
+cdm::Object* AsObject(const ObjectRef& ref) {
+  switch (ref.kind) {
+    case ObjectKind::kPort:
+      return static_cast<cdm::Port*>(ref.object);
+    case ObjectKind::kPin:
+      return static_cast<cdm::Pin*>(ref.object);
+    case ObjectKind::kNet:
+      return static_cast<cdm::Net*>(ref.object);
+    case ObjectKind::kCell:
+      return static_cast<cdm::Cell*>(ref.object);
+    case ObjectKind::kClock:
+      return static_cast<sta::sdc::Clock*>(ref.object);
+    case ObjectKind::kLibrary:
+      return static_cast<cdm::LibertyLib*>(ref.object);
+    case ObjectKind::kLibCell:
+      return static_cast<cdm::LibCell*>(ref.object);
+    case ObjectKind::kLibPin:
+      return static_cast<cdm::LibPort*>(ref.object);
+    case ObjectKind::kDesign:
+      return static_cast<cdm::Design*>(ref.object);
+  }
+  return nullptr;
+}
+
 std::string FullName(const ObjectRef& ref) {
   if (!ref.object) return std::string();
   switch (ref.kind) {

@@ -5,6 +5,10 @@
 #include <cstdint>
 #include <string>
 
+namespace cdm {
+class Object;
+}
+
 namespace query {
 
 enum class ObjectKind : uint8_t {
@@ -31,6 +35,9 @@ struct ObjectRef {
 // "port", "pin", "net", "cell", "clock", "lib", "lib_cell", "lib_pin",
 // "design": the word messages and get_attribute's object_class use.
 const char* KindName(ObjectKind kind);
+
+// The object as the database's base class (every kind is one).
+cdm::Object* AsObject(const ObjectRef& ref);
 
 // The name a collection prints: full path names for pins, nets and cells,
 // "library/cell" and "library/cell/pin" for library objects.

@@ -16,6 +16,10 @@ namespace sta::sdc {
 struct ExceptionPoint {
   std::vector<SdcObject> objects;
   const cdm::RiseFallBoth* edges = cdm::RiseFallBoth::rise_fall_;
+
+  bool operator==(const ExceptionPoint& other) const {
+    return edges == other.edges && objects == other.objects;
+  }
 };
 
 struct PathException {
@@ -42,6 +46,14 @@ struct PathException {
   bool group_default = false;
   float weight = 1.0f;
   std::string comment;
+
+  // The same paths and checks: a later exception of the kind replaces the
+  // earlier one's value.
+  bool SamePaths(const PathException& other) const {
+    return type == other.type && from == other.from && throughs == other.throughs &&
+           to == other.to && setup == other.setup && hold == other.hold && start == other.start &&
+           end == other.end && group == other.group && group_default == other.group_default;
+  }
 };
 
 }  // namespace sta::sdc

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "hostapi/cdm/LogicValue.h"
+#include "hostapi/cdm/Selectors.h"
 #include "hostapi/sta/PortDelay.h"
 
 namespace sta::sdc {
@@ -24,6 +25,10 @@ struct PinConstraints {
   bool ideal_no_propagate = false;            // set_ideal_network -no_propagate
   bool dont_touch_network = false;            // set_dont_touch_network
   bool propagated_clock = false;              // set_propagated_clock on the pin
+  // set_clock_uncertainty on the pin: min is hold, max is setup.
+  std::optional<float> clock_uncertainty[2];
+  // set_clock_latency on the pin: network, then -source.
+  cdm::RiseFallMinMax clock_latency[2];
 };
 
 }  // namespace sta::sdc

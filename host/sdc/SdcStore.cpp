@@ -2,12 +2,14 @@
 
 #include <algorithm>
 
+#include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
+#include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
 #include "hostapi/cdm/Port.h"
 #include "hostapi/cdm/Root.h"
-#include "hostapi/msg/Msg.h"
+#include "msg/HostMsg.h"
 
 namespace sta::sdc {
 
@@ -68,6 +70,34 @@ PinConstraints& SdcStore::Pin(cdm::Pin* pin) {
   return *slot;
 }
 
+NetConstraints* SdcStore::FindNet(const cdm::Net* net) {
+  auto found = nets_.find(net);
+  return found == nets_.end() ? nullptr : found->second.get();
+}
+
+NetConstraints& SdcStore::Net(cdm::Net* net) {
+  std::unique_ptr<NetConstraints>& slot = nets_[net];
+  if (!slot) {
+    slot = std::make_unique<NetConstraints>();
+    slot->name = net->GetFullName();
+  }
+  return *slot;
+}
+
+CellConstraints* SdcStore::FindCell(const cdm::Cell* cell) {
+  auto found = cells_.find(cell);
+  return found == cells_.end() ? nullptr : found->second.get();
+}
+
+CellConstraints& SdcStore::Cell(cdm::Cell* cell) {
+  std::unique_ptr<CellConstraints>& slot = cells_[cell];
+  if (!slot) {
+    slot = std::make_unique<CellConstraints>();
+    slot->name = cell->GetFullName();
+  }
+  return *slot;
+}
+
 std::vector<std::pair<cdm::Port*, PortConstraints*>> SdcStore::PortRecords() {
   std::vector<std::pair<cdm::Port*, PortConstraints*>> records;
   for (auto& entry : ports_)
@@ -79,6 +109,20 @@ std::vector<std::pair<cdm::Pin*, PinConstraints*>> SdcStore::PinRecords() {
   std::vector<std::pair<cdm::Pin*, PinConstraints*>> records;
   for (auto& entry : pins_)
     records.emplace_back(const_cast<cdm::Pin*>(entry.first), entry.second.get());
+  return records;
+}
+
+std::vector<std::pair<cdm::Net*, NetConstraints*>> SdcStore::NetRecords() {
+  std::vector<std::pair<cdm::Net*, NetConstraints*>> records;
+  for (auto& entry : nets_)
+    records.emplace_back(const_cast<cdm::Net*>(entry.first), entry.second.get());
+  return records;
+}
+
+std::vector<std::pair<cdm::Cell*, CellConstraints*>> SdcStore::CellRecords() {
+  std::vector<std::pair<cdm::Cell*, CellConstraints*>> records;
+  for (auto& entry : cells_)
+    records.emplace_back(const_cast<cdm::Cell*>(entry.first), entry.second.get());
   return records;
 }
 
@@ -97,7 +141,7 @@ std::vector<Clock*> SdcStore::ClocksAt(const cdm::Pin* pin) const {
 }
 
 void SdcStore::Dropped(const std::string& kind, const std::string& name, const std::string& what) {
-  msg::ReportMsg(SDC_003, what.c_str(), kind.c_str(), name.c_str(), design_name_.c_str());
+  msg::HostMsg(SDC_003, {what, kind, name, design_name_});
 }
 
 }  // namespace sta::sdc

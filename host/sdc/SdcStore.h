@@ -15,9 +15,12 @@
 #include "hostapi/sta/InputDrive.h"
 #include "hostapi/sta/PortDelay.h"
 #include "hostapi/sta/PortExtLoad.h"
+#include "sdc/CellConstraints.h"
 #include "sdc/ClockGroups.h"
 #include "sdc/DesignConstraints.h"
 #include "sdc/DisabledTiming.h"
+#include "sdc/InterClockUncertainty.h"
+#include "sdc/NetConstraints.h"
 #include "sdc/PathException.h"
 #include "sdc/PinConstraints.h"
 #include "sdc/PortConstraints.h"
@@ -25,8 +28,10 @@
 
 namespace cdm {
 class Design;
+class Cell;
 class LibCell;
 class LibPort;
+class Net;
 class Pin;
 class Port;
 }  // namespace cdm
@@ -73,9 +78,16 @@ class SdcStore {
   // Pins, by the pin object (a top port's pin or a cell pin).
   PinConstraints* FindPin(const cdm::Pin* pin);
   PinConstraints& Pin(cdm::Pin* pin);
+  // Nets (set_load on a net) and hierarchical cells (set_wire_load_model).
+  NetConstraints* FindNet(const cdm::Net* net);
+  NetConstraints& Net(cdm::Net* net);
+  CellConstraints* FindCell(const cdm::Cell* cell);
+  CellConstraints& Cell(cdm::Cell* cell);
   // Every record, for writing and for the timer; in no set order.
   std::vector<std::pair<cdm::Port*, PortConstraints*>> PortRecords();
   std::vector<std::pair<cdm::Pin*, PinConstraints*>> PinRecords();
+  std::vector<std::pair<cdm::Net*, NetConstraints*>> NetRecords();
+  std::vector<std::pair<cdm::Cell*, CellConstraints*>> CellRecords();
 
   // Drives and loads of input and output ports.
   void SetDriveResistance(cdm::Port* port, const cdm::RiseFallBoth* edges, MinMaxAll which,
@@ -100,12 +112,19 @@ class SdcStore {
   void SetClockSources(Clock* clock, const std::vector<cdm::Pin*>& sources, bool add);
   void SetGeneratedClock(Clock* clock, cdm::Pin* source, const Clock* master, int divide_by,
                          int multiply_by, bool invert);
+  void SetGeneratedShape(Clock* clock, std::vector<int> edges, std::vector<float> edge_shifts,
+                         float duty_cycle, bool combinational);
+  void SetClockComment(Clock* clock, std::string comment);
   void SetClockPropagated(Clock* clock, bool propagated);
   void SetClockUncertainty(Clock* clock, MinMaxAll setup_hold, float seconds);
   void SetClockLatency(Clock* clock, bool source, const cdm::RiseFallBoth* edges, MinMaxAll which,
                        float seconds);
   void SetClockTransition(Clock* clock, const cdm::RiseFallBoth* edges, MinMaxAll which,
                           float seconds);
+  // Removes a clock, and with it the delays relative to it and its place in
+  // clock groups and inter-clock uncertainties.
+  void RemoveClock(Clock* clock);
+  std::vector<InterClockUncertainty>& InterClockUncertainties() { return inter_clock_; }
   // The clocks defined on a pin.
   std::vector<Clock*> ClocksAt(const cdm::Pin* pin) const;
 
@@ -134,6 +153,7 @@ class SdcStore {
   void RelinkClocks(cdm::Design* design);
   void RelinkPorts(cdm::Design* design);
   void RelinkPins(cdm::Design* design);
+  void RelinkNetsAndCells();
   void RelinkObjects(std::vector<SdcObject>& objects, const char* what);
   void RelinkExceptions();
   void RelinkDisabled();
@@ -148,6 +168,9 @@ class SdcStore {
   DesignConstraints design_;
   std::unordered_map<const cdm::Port*, std::unique_ptr<PortConstraints>> ports_;
   std::unordered_map<const cdm::Pin*, std::unique_ptr<PinConstraints>> pins_;
+  std::unordered_map<const cdm::Net*, std::unique_ptr<NetConstraints>> nets_;
+  std::unordered_map<const cdm::Cell*, std::unique_ptr<CellConstraints>> cells_;
+  std::vector<InterClockUncertainty> inter_clock_;
   std::vector<std::unique_ptr<Clock>> owned_clocks_;
   std::vector<Clock*> clocks_;
   std::unordered_map<std::string, Clock*> clock_index_;

@@ -1,5 +1,7 @@
 // The store's clocks: create_clock, create_generated_clock and the clock
 // attributes.
+#include <algorithm>
+
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Pin.h"
 #include "hostapi/cdm/Root.h"
@@ -31,6 +33,11 @@ Clock* SdcStore::MakeClock(const std::string& name) {
   clock->divide_by_ = 1;
   clock->multiply_by_ = 1;
   clock->inverted_ = false;
+  clock->edges_.clear();
+  clock->edge_shifts_.clear();
+  clock->duty_cycle_ = 0.0f;
+  clock->combinational_ = false;
+  clock->comment_.clear();
   clock->uncertainty_[0].reset();
   clock->uncertainty_[1].reset();
   clock->source_latency_ = cdm::RiseFallMinMax();
@@ -66,6 +73,20 @@ void SdcStore::SetGeneratedClock(Clock* clock, cdm::Pin* source, const Clock* ma
   NoteChange();
 }
 
+void SdcStore::SetGeneratedShape(Clock* clock, std::vector<int> edges,
+                                 std::vector<float> edge_shifts, float duty_cycle,
+                                 bool combinational) {
+  clock->edges_ = std::move(edges);
+  clock->edge_shifts_ = std::move(edge_shifts);
+  clock->duty_cycle_ = duty_cycle;
+  clock->combinational_ = combinational;
+  NoteChange();
+}
+
+void SdcStore::SetClockComment(Clock* clock, std::string comment) {
+  clock->comment_ = std::move(comment);
+}
+
 void SdcStore::SetClockPropagated(Clock* clock, bool propagated) {
   clock->propagated_ = propagated;
   NoteChange();
@@ -99,6 +120,50 @@ void SdcStore::RetireClock(Clock* clock) {
   clock_index_.erase(clock->Name());
   // The object stays owned (retired), so that nothing that still points
   // at it dangles; it is no longer found.
+}
+
+}  // namespace sta::sdc
+
+namespace sta::sdc {
+
+void SdcStore::RemoveClock(Clock* clock) {
+  RetireClock(clock);
+  auto relative = [&](const PortDelay* delay) { return delay->getClock() == clock; };
+  for (auto& entry : pins_) {
+    PinConstraints& record = *entry.second;
+    auto drop = [&](auto& owned, auto& delays) {
+      delays.erase(std::remove_if(delays.begin(), delays.end(), relative), delays.end());
+      owned.erase(std::remove_if(owned.begin(), owned.end(),
+                                 [&](const auto& delay) { return relative(delay.get()); }),
+                  owned.end());
+    };
+    drop(record.input_owned, record.input_delays);
+    drop(record.output_owned, record.output_delays);
+  }
+  for (ClockGroups& groups : clock_groups_)
+    for (auto& group : groups.groups)
+      group.erase(std::remove(group.begin(), group.end(), clock), group.end());
+  inter_clock_.erase(std::remove_if(inter_clock_.begin(), inter_clock_.end(),
+                                    [&](const InterClockUncertainty& entry) {
+                                      return entry.from == clock || entry.to == clock;
+                                    }),
+                     inter_clock_.end());
+  for (auto it = exceptions_.begin(); it != exceptions_.end();) {
+    bool emptied = false;
+    auto strip = [&](ExceptionPoint& point) {
+      const bool had = !point.objects.empty();
+      point.objects.erase(
+          std::remove_if(point.objects.begin(), point.objects.end(),
+                         [&](const SdcObject& object) { return object.ref.object == clock; }),
+          point.objects.end());
+      if (had && point.objects.empty()) emptied = true;
+    };
+    if (it->from) strip(*it->from);
+    for (ExceptionPoint& through : it->throughs) strip(through);
+    if (it->to) strip(*it->to);
+    it = emptied ? exceptions_.erase(it) : it + 1;
+  }
+  NoteChange();
 }
 
 }  // namespace sta::sdc

@@ -3,15 +3,17 @@
 // Constraints whose objects are gone are dropped with one warning each.
 #include <algorithm>
 
+#include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/LibCell.h"
 #include "hostapi/cdm/LibPort.h"
 #include "hostapi/cdm/LibertyLib.h"
+#include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
 #include "hostapi/cdm/Port.h"
 #include "hostapi/cdm/Root.h"
-#include "hostapi/msg/Msg.h"
+#include "msg/HostMsg.h"
 #include "sdc/SdcStore.h"
 
 namespace sta::sdc {
@@ -82,6 +84,7 @@ void SdcStore::Relink(cdm::Design* design) {
   RelinkClocks(design);  // first: delays and exceptions refer to clocks
   RelinkPorts(design);
   RelinkPins(design);
+  RelinkNetsAndCells();
   RelinkExceptions();
   RelinkDisabled();
   for (int i = 0; i < 2; ++i) {
@@ -135,11 +138,17 @@ void SdcStore::RelinkClocks(cdm::Design*) {
   }
   for (Clock* clock : gone) {
     if (std::find(clocks_.begin(), clocks_.end(), clock) == clocks_.end()) continue;
-    msg::ReportMsg(SDC_004, clock->Name().c_str(), design_name_.c_str());
+    msg::HostMsg(SDC_004, {clock->Name(), design_name_});
     RetireClock(clock);
   }
   for (Clock* clock : clocks_)
     if (clock->master_ && !FindClock(clock->master_->Name())) clock->master_ = nullptr;
+  inter_clock_.erase(std::remove_if(inter_clock_.begin(), inter_clock_.end(),
+                                    [&](const InterClockUncertainty& entry) {
+                                      return FindClock(entry.from->Name()) != entry.from ||
+                                             FindClock(entry.to->Name()) != entry.to;
+                                    }),
+                     inter_clock_.end());
   for (ClockGroups& groups : clock_groups_)
     for (auto& group : groups.groups)
       group.erase(std::remove_if(group.begin(), group.end(),
@@ -239,6 +248,30 @@ void SdcStore::RelinkPins(cdm::Design*) {
   pins_ = std::move(relinked);
 }
 
+void SdcStore::RelinkNetsAndCells() {
+  std::unordered_map<const cdm::Net*, std::unique_ptr<NetConstraints>> nets;
+  for (auto& entry : nets_) {
+    cdm::Net* net = cdm::DbManager::FindNet(entry.second->name);
+    if (net)
+      nets[net] = std::move(entry.second);
+    else
+      Dropped("net", entry.second->name, "set_load");
+  }
+  nets_ = std::move(nets);
+  std::unordered_map<const cdm::Cell*, std::unique_ptr<CellConstraints>> cells;
+  for (auto& entry : cells_) {
+    cdm::Cell* cell = cdm::DbManager::FindCell(entry.second->name);
+    if (!cell) {
+      Dropped("cell", entry.second->name, "set_wire_load_model");
+      continue;
+    }
+    for (auto& wire_load : entry.second->wire_load)
+      if (wire_load) wire_load = CurrentWireLoad(wire_load);
+    cells[cell] = std::move(entry.second);
+  }
+  cells_ = std::move(cells);
+}
+
 void SdcStore::RelinkObjects(std::vector<SdcObject>& objects, const char* what) {
   for (auto it = objects.begin(); it != objects.end();) {
     query::ObjectRef now = it->ref.kind == query::ObjectKind::kClock
@@ -266,7 +299,7 @@ void SdcStore::RelinkExceptions() {
     for (ExceptionPoint& through : it->throughs) relink(through, "an exception's -through");
     if (it->to) relink(*it->to, "an exception's -to");
     if (emptied) {
-      msg::ReportMsg(SDC_005, design_name_.c_str());
+      msg::HostMsg(SDC_005, {design_name_});
       it = exceptions_.erase(it);
     } else {
       ++it;

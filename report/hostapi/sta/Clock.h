@@ -64,6 +64,14 @@ class Clock : public cdm::Object {
   int getDivideBy() const { return divide_by_; }
   int getMultiplyBy() const { return multiply_by_; }
   bool isInverted() const { return inverted_; }
+  // -edges (master edges counted from 1), -edge_shift (seconds, one per
+  // edge) and -duty_cycle (percent; 0 when not given); -combinational.
+  const std::vector<int>& getEdges() const { return edges_; }
+  const std::vector<float>& getEdgeShifts() const { return edge_shifts_; }
+  float getDutyCycle() const { return duty_cycle_; }
+  bool isCombinational() const { return combinational_; }
+  // -comment of the definition.
+  const std::string& getComment() const { return comment_; }
 
   // set_clock_uncertainty: max is the setup side, min the hold side.
   std::optional<float> getUncertainty(const cdm::MinMax* setup_hold) const {
@@ -88,6 +96,11 @@ class Clock : public cdm::Object {
   int divide_by_ = 1;
   int multiply_by_ = 1;
   bool inverted_ = false;
+  std::vector<int> edges_;
+  std::vector<float> edge_shifts_;
+  float duty_cycle_ = 0.0f;
+  bool combinational_ = false;
+  std::string comment_;
   std::optional<float> uncertainty_[2];
   cdm::RiseFallMinMax source_latency_;
   cdm::RiseFallMinMax network_latency_;
