@@ -9,10 +9,10 @@
 
 #include "cmdlib/CommandState.h"
 #include "cmdlib/CommandTable.h"
-#include "db/DesignQuery.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Root.h"
+#include "query/ObjectFinder.h"
 
 namespace shell {
 namespace {
@@ -129,14 +129,16 @@ void CompleteObjects(ObjectKind kind, const std::string& word, std::set<std::str
   const cdm::Design* design = cdm::DbManager::GetCurrentDesign();
   // The typed start is matched literally: glob characters in it stay as typed.
   const std::string pattern = word + "*";
+  std::vector<query::ObjectRef> found;
+  std::string error;
   std::vector<std::string> names;
   switch (kind) {
     case ObjectKind::kLibs:
-      cdm::FindLibNames(root, pattern, names);
+      query::FindLibs(pattern, {}, found, error);
       break;
     case ObjectKind::kLibCells:
-      cdm::FindLibCellNames(root, word.find('/') == std::string::npos ? "*/" + pattern : pattern,
-                            names);
+      query::FindLibCells(word.find('/') == std::string::npos ? "*/" + pattern : pattern, {}, found,
+                          error);
       break;
     case ObjectKind::kModules:
       for (const cdm::Design* module : root->Designs()) names.push_back(module->Name());
@@ -144,14 +146,15 @@ void CompleteObjects(ObjectKind kind, const std::string& word, std::set<std::str
     default:
       if (!design) break;
       if (kind == ObjectKind::kCells || kind == ObjectKind::kAny)
-        cdm::FindCellNames(design, pattern, false, names);
+        query::FindCells(design, pattern, {}, found, error);
       if (kind == ObjectKind::kNets || kind == ObjectKind::kAny)
-        cdm::FindNetNames(design, pattern, false, names);
-      if (kind == ObjectKind::kPins) cdm::FindPinNames(design, pattern, false, names);
+        query::FindNets(design, pattern, {}, found, error);
+      if (kind == ObjectKind::kPins) query::FindPins(design, pattern, {}, found, error);
       if (kind == ObjectKind::kPorts || kind == ObjectKind::kAny)
-        cdm::FindPortNames(design, pattern, names);
+        query::FindPorts(design, pattern, {}, found, error);
       break;
   }
+  for (const query::ObjectRef& ref : found) names.push_back(query::FullName(ref));
   AddMatching(names, word, into);
 }
 
