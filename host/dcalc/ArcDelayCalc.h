@@ -40,6 +40,10 @@ class ArcDelayCalc {
   // From a driver to one load pin of its net: the wire's delay and the
   // slew the load sees, given the driver's.
   virtual ArcTiming WireDelay(float driver_slew, const NetLoad& load) const = 0;
+
+  // A top input driven through a resistance (set_drive): the delay and the
+  // slew it gives the port under the load.
+  virtual ArcTiming DriveResistance(float ohms, const NetLoad& load) const = 0;
 };
 
 }  // namespace sta

@@ -10,11 +10,16 @@ class Pin;
 
 namespace sta {
 
+namespace sdc {
+class DriveCell;
+}
+
 class DelayCalcInputs {
  public:
   virtual ~DelayCalcInputs() = default;
 
-  // Capacitance outside the design on a top port (set_load), F.
+  // Capacitance outside the design on a top port (set_load, pin and wire
+  // load together), F.
   virtual float PortLoad(const cdm::Pin* /*port_pin*/, int /*rf*/, int /*mm*/) const {
     return 0.0f;
   }
@@ -23,11 +28,15 @@ class DelayCalcInputs {
                          float& /*slew*/) const {
     return false;
   }
-  // The driving cell of a top input (set_driving_cell): its delay and
-  // output slew into `load` F; false when the port has none.
-  virtual bool DrivingCell(const cdm::Pin* /*port_pin*/, int /*rf*/, int /*mm*/, float /*load*/,
-                           float& /*delay*/, float& /*slew*/) const {
+  // set_drive on a top input: its drive resistance (ohm), when given.
+  virtual bool DriveResistance(const cdm::Pin* /*port_pin*/, int /*rf*/, int /*mm*/,
+                               float& /*ohms*/) const {
     return false;
+  }
+  // set_driving_cell on a top input; null when none.
+  virtual const sdc::DriveCell* DrivingCell(const cdm::Pin* /*port_pin*/, int /*rf*/,
+                                            int /*mm*/) const {
+    return nullptr;
   }
   // The transition of an ideal clock at a vertex of its network.
   virtual bool IdealClockSlew(uint32_t /*vertex*/, int /*rf*/, int /*mm*/, float& /*slew*/) const {

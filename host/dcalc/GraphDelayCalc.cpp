@@ -1,17 +1,18 @@
 #include "dcalc/GraphDelayCalc.h"
 
 #include <algorithm>
-#include <limits>
 #include <memory>
 
 #include "cmdlib/Interrupt.h"
 #include "dcalc/DelayCalcInputs.h"
 #include "dcalc/TableLookup.h"
+#include "graph/ArcRoles.h"
 #include "graph/TimingGraph.h"
 #include "hostapi/cdm/LibCell.h"
 #include "hostapi/cdm/LibPort.h"
 #include "hostapi/cdm/LibTiming.h"
 #include "hostapi/cdm/Pin.h"
+#include "hostapi/sta/InputDrive.h"
 #include "msg/Progress.h"
 
 namespace sta {
@@ -39,6 +40,17 @@ bool NeedsDelays(const Edge& edge) {
          IsCheck(edge.role);
 }
 
+// Folds `value` into `slot`: the smallest for min (mm 0), the largest for
+// max; the first value sets it.
+void Fold(float& slot, bool& seen, float value, int mm) {
+  if (!seen) {
+    slot = value;
+    seen = true;
+  } else {
+    slot = mm == 0 ? std::min(slot, value) : std::max(slot, value);
+  }
+}
+
 }  // namespace
 
 void GraphDelayCalc::AllocateArcs(const TimingGraph& graph) {
@@ -56,11 +68,10 @@ void GraphDelayCalc::AllocateArcs(const TimingGraph& graph) {
   for (uint32_t v = 1; v < graph.TableSize(); ++v)
     if (graph.HasVertex(v) && graph.vertex(v)->isDriver()) driver_slot_[v] = drivers++;
   loads_.assign(static_cast<size_t>(drivers) * 4, NetLoad());
-  allocated_edges_ = edges.size();
 }
 
-const SlewScale& GraphDelayCalc::ScaleOf(const cdm::LibTimingArcSet* arc_set) {
-  const cdm::LibertyLib* lib = arc_set->GetToPort()->GetLibCell()->GetLibertyLib();
+const SlewScale& GraphDelayCalc::ScaleOf(const cdm::LibCell* lib_cell) {
+  const cdm::LibertyLib* lib = lib_cell->GetLibertyLib();
   auto found = scales_.find(lib);
   if (found == scales_.end()) found = scales_.emplace(lib, SlewScale(lib, reference_)).first;
   return found->second;
@@ -74,7 +85,6 @@ void GraphDelayCalc::Run(TimingGraph& graph, const ArcDelayCalc& calc,
   if (reference != reference_) scales_.clear();
   reference_ = reference;
   AllocateArcs(graph);
-  std::fill(arc_values_.begin(), arc_values_.end(), 0.0f);
   drive_delays_.clear();
   graph.ClearSlews();
   // An update over more than a million vertices shows its progress. Ctrl-C
@@ -130,7 +140,7 @@ void GraphDelayCalc::DriverLoad(const TimingGraph& graph, uint32_t v) {
 void GraphDelayCalc::CellArcs(TimingGraph& graph, uint32_t edge_index, float out_slew[2][2],
                               bool seen[2][2]) {
   const Edge& edge = graph.Edges()[edge_index];
-  const SlewScale& scale = ScaleOf(edge.arc_set);
+  const SlewScale& scale = ScaleOf(edge.arc_set->GetToPort()->GetLibCell());
   const uint32_t slot = driver_slot_[edge.to];
   float* values = &arc_values_[arc_base_[edge_index]];
   for (int from_rf = 0; from_rf < 2; ++from_rf) {
@@ -145,13 +155,62 @@ void GraphDelayCalc::CellArcs(TimingGraph& graph, uint32_t edge_index, float out
         const ArcTiming timing =
             calc_->GateDelay(*model, graph.Slew(edge.from, from_rf, mm), load, scale);
         values[position * 2 + mm] = timing.delay;
-        float& slew = out_slew[to_rf][mm];
-        if (!seen[to_rf][mm]) {
-          slew = timing.slew;
-          seen[to_rf][mm] = true;
-        } else {
-          slew = mm == 0 ? std::min(slew, timing.slew) : std::max(slew, timing.slew);
+        Fold(out_slew[to_rf][mm], seen[to_rf][mm], timing.slew, mm);
+      }
+    }
+  }
+}
+
+bool GraphDelayCalc::DriveCellTiming(const sdc::DriveCell& cell, int rf, int mm,
+                                     const NetLoad& load, ArcTiming& result) {
+  const cdm::LibCell* lib_cell = cell.getLibCell();
+  if (!lib_cell) return false;
+  const SlewScale& scale = ScaleOf(lib_cell);
+  bool seen_delay = false;
+  bool seen_slew = false;
+  for (const cdm::LibTimingArcSet* arc_set : lib_cell->GetTimingArcSets()) {
+    if (cell.getToPort() ? arc_set->GetToPort() != cell.getToPort()
+                         : !arc_set->GetToPort()->IsOutput()) {
+      continue;
+    }
+    if (cell.getFromPort() && arc_set->GetFromPort() != cell.getFromPort()) continue;
+    const EdgeRole role = ArcRole(*arc_set);
+    if (role != EdgeRole::kCombinational) continue;
+    const uint8_t arcs = ArcTransitions(*arc_set, role);
+    const cdm::LibTimingModel* model = arc_set->GetTimingAttr()->GetTimingModel(EdgeOf(rf));
+    if (!model) continue;
+    for (int in_rf = 0; in_rf < 2; ++in_rf) {
+      if ((arcs & ArcBit(in_rf, rf)) == 0) continue;
+      const float in_slew = cell.getInputTransition(EdgeOf(in_rf)).value_or(0.0f);
+      const ArcTiming timing = calc_->GateDelay(*model, in_slew, load, scale);
+      Fold(result.delay, seen_delay, timing.delay, mm);
+      Fold(result.slew, seen_slew, timing.slew, mm);
+    }
+  }
+  return seen_delay;
+}
+
+void GraphDelayCalc::InputPortSlews(uint32_t v, float slew[2][2]) {
+  const cdm::Pin* pin = graph_->vertex(v)->pin();
+  const uint32_t slot = driver_slot_[v];
+  for (int rf = 0; rf < 2; ++rf) {
+    for (int mm = 0; mm < 2; ++mm) {
+      const NetLoad load = slot == kNone ? NetLoad() : loads_[slot * 4 + Slot(rf, mm)];
+      float value = 0.0f;
+      if (inputs_->InputSlew(pin, rf, mm, value)) {
+        slew[rf][mm] = value;
+      } else if (const sdc::DriveCell* cell = inputs_->DrivingCell(pin, rf, mm)) {
+        ArcTiming timing;
+        if (DriveCellTiming(*cell, rf, mm, load, timing)) {
+          slew[rf][mm] = timing.slew;
+          drive_delays_[v][Slot(rf, mm)] = timing.delay;
         }
+      } else if (inputs_->DriveResistance(pin, rf, mm, value)) {
+        // A linear driver of that resistance: delay R * C to the middle of
+        // the swing, and the slew of the same ramp.
+        const ArcTiming timing = calc_->DriveResistance(value, load);
+        slew[rf][mm] = timing.slew;
+        drive_delays_[v][Slot(rf, mm)] = timing.delay;
       }
     }
   }
@@ -172,35 +231,14 @@ void GraphDelayCalc::VertexSlews(TimingGraph& graph, uint32_t v) {
         for (int mm = 0; mm < 2; ++mm) {
           const NetLoad load = slot == kNone ? NetLoad() : loads_[slot * 4 + Slot(rf, mm)];
           const float s = calc_->WireDelay(graph.Slew(edge.from, rf, mm), load).slew;
-          if (!seen[rf][mm]) {
-            slew[rf][mm] = s;
-            seen[rf][mm] = true;
-          } else {
-            slew[rf][mm] = mm == 0 ? std::min(slew[rf][mm], s) : std::max(slew[rf][mm], s);
-          }
+          Fold(slew[rf][mm], seen[rf][mm], s, mm);
         }
       }
     } else {
       CellArcs(graph, e, slew, seen);
     }
   }
-  const cdm::Pin* pin = vertex->pin();
-  if (pin->IsTopPortPin() && vertex->isDriver()) {
-    const uint32_t slot = driver_slot_[v];
-    for (int rf = 0; rf < 2; ++rf) {
-      for (int mm = 0; mm < 2; ++mm) {
-        float value = 0.0f;
-        float delay = 0.0f;
-        const float load = slot == kNone ? 0.0f : loads_[slot * 4 + Slot(rf, mm)].Total();
-        if (inputs_->InputSlew(pin, rf, mm, value)) {
-          slew[rf][mm] = value;
-        } else if (inputs_->DrivingCell(pin, rf, mm, load, delay, value)) {
-          slew[rf][mm] = value;
-          drive_delays_[v][Slot(rf, mm)] = delay;
-        }
-      }
-    }
-  }
+  if (vertex->isDriver() && vertex->pin()->IsTopPortPin()) InputPortSlews(v, slew);
   for (int rf = 0; rf < 2; ++rf) {
     for (int mm = 0; mm < 2; ++mm) {
       float ideal = 0.0f;
@@ -212,7 +250,7 @@ void GraphDelayCalc::VertexSlews(TimingGraph& graph, uint32_t v) {
 
 void GraphDelayCalc::CheckMargins(const TimingGraph& graph, uint32_t edge_index) {
   const Edge& edge = graph.Edges()[edge_index];
-  const SlewScale& scale = ScaleOf(edge.arc_set);
+  const SlewScale& scale = ScaleOf(edge.arc_set->GetToPort()->GetLibCell());
   float* values = &arc_values_[arc_base_[edge_index]];
   for (int clock_rf = 0; clock_rf < 2; ++clock_rf) {
     for (int data_rf = 0; data_rf < 2; ++data_rf) {

@@ -12,11 +12,15 @@
 #include "dcalc/SlewScale.h"
 
 namespace cdm {
+class LibCell;
 class LibertyLib;
-class LibTimingArcSet;
 }  // namespace cdm
 
 namespace sta {
+
+namespace sdc {
+class DriveCell;
+}
 
 class DelayCalcInputs;
 class TimingGraph;
@@ -32,7 +36,8 @@ class GraphDelayCalc {
   float ArcDelay(uint32_t edge, int from_rf, int to_rf, int mm) const;
   // The load a driver vertex sees, F, for an edge of its output.
   NetLoad Load(uint32_t driver, int rf, int mm) const;
-  // Delay of a top input's driving cell, added to its arrival.
+  // Delay of a top input's driving cell (or of its drive resistance), added
+  // to its arrival.
   float DriveDelay(uint32_t port_vertex, int rf, int mm) const;
 
  private:
@@ -40,8 +45,11 @@ class GraphDelayCalc {
   void VertexSlews(TimingGraph& graph, uint32_t v);
   void DriverLoad(const TimingGraph& graph, uint32_t v);
   void CellArcs(TimingGraph& graph, uint32_t edge_index, float out_slew[2][2], bool seen[2][2]);
+  void InputPortSlews(uint32_t v, float slew[2][2]);
+  bool DriveCellTiming(const sdc::DriveCell& cell, int rf, int mm, const NetLoad& load,
+                       ArcTiming& result);
   void CheckMargins(const TimingGraph& graph, uint32_t edge_index);
-  const SlewScale& ScaleOf(const cdm::LibTimingArcSet* arc_set);
+  const SlewScale& ScaleOf(const cdm::LibCell* lib_cell);
   static int Slot(int rf, int mm) { return rf * 2 + mm; }
 
   const ArcDelayCalc* calc_ = nullptr;
@@ -55,7 +63,6 @@ class GraphDelayCalc {
   std::vector<NetLoad> loads_;         // four per driver: rise min, rise max, fall min, fall max
   std::unordered_map<uint32_t, std::array<float, 4>> drive_delays_;
   std::unordered_map<const cdm::LibertyLib*, SlewScale> scales_;
-  size_t allocated_edges_ = 0;
 };
 
 }  // namespace sta

@@ -23,4 +23,9 @@ ArcTiming LumpedCapDelayCalc::WireDelay(float driver_slew, const NetLoad&) const
   return ArcTiming{0.0f, driver_slew};
 }
 
+ArcTiming LumpedCapDelayCalc::DriveResistance(float ohms, const NetLoad& load) const {
+  const float rc = ohms * load.Total();
+  return ArcTiming{rc, rc};
+}
+
 }  // namespace sta

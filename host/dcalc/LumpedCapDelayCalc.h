@@ -12,6 +12,7 @@ class LumpedCapDelayCalc : public ArcDelayCalc {
   ArcTiming GateDelay(const cdm::LibTimingModel& model, float in_slew, const NetLoad& load,
                       const SlewScale& scale) const override;
   ArcTiming WireDelay(float driver_slew, const NetLoad& load) const override;
+  ArcTiming DriveResistance(float ohms, const NetLoad& load) const override;
 };
 
 }  // namespace sta

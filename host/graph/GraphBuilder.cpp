@@ -3,25 +3,19 @@
 #include <unordered_map>
 #include <vector>
 
+#include "db/Elaboration.h"
 #include "graph/ArcRoles.h"
 #include "graph/TimingGraph.h"
 #include "hostapi/cdm/Cell.h"
-#include "hostapi/cdm/Design.h"
-#include "hostapi/cdm/DesignIterators.h"
 #include "hostapi/cdm/LibCell.h"
 #include "hostapi/cdm/Pin.h"
 
 namespace sta {
 namespace {
 
-bool IsVertexPin(const cdm::Pin* pin) {
-  if (pin->IsTopPortPin()) return true;
-  const cdm::Cell* cell = pin->GetCell();
-  return cell && cell->IsLeaf() && pin->GetVertexId() != 0;
-}
-
 // The edges one library cell contributes, by pin position, worked out once
-// per library cell and stamped out for every instance.
+// per library cell and stamped out for every instance (link gives every
+// instance of a library cell its pins in the cell's port order).
 struct EdgeTemplate {
   uint32_t from_pin;
   uint32_t to_pin;
@@ -61,48 +55,68 @@ std::vector<EdgeTemplate> MakeTemplates(const cdm::Cell& instance) {
 
 }  // namespace
 
-void BuildTimingGraph(const cdm::Design* design, TimingGraph& graph) {
-  std::vector<cdm::Pin*> pins;
-  uint32_t max_id = 0;
-  cdm::AllPinIterator all(design, true, IsVertexPin);
-  while (all.HasNext()) {
-    cdm::Pin* pin = all.Next();
-    pins.push_back(pin);
-    if (pin->GetVertexId() > max_id) max_id = pin->GetVertexId();
+uint32_t DriverVertex(const cdm::Pin* pin) {
+  return pin->GetVertexId();
+}
+
+uint32_t LoadVertex(const cdm::Pin* pin) {
+  return pin->GetVertexId() + (pin->IsNetDriver() && pin->IsNetLoad() ? 1 : 0);
+}
+
+namespace {
+
+void AddCellEdges(const cdm::Cell& cell,
+                  std::unordered_map<const cdm::LibCell*, std::vector<EdgeTemplate>>& templates,
+                  TimingGraph& graph) {
+  const cdm::LibCell* lib_cell = cell.GetRefLibCell();
+  if (!lib_cell) return;
+  auto found = templates.find(lib_cell);
+  if (found == templates.end()) found = templates.emplace(lib_cell, MakeTemplates(cell)).first;
+  for (const EdgeTemplate& item : found->second) {
+    const cdm::Pin* from_pin = cell.GetPin(item.from_pin);
+    const cdm::Pin* to_pin = cell.GetPin(item.to_pin);
+    // Checks join the loading halves of both pins; other arcs run from the
+    // input's loading half to the output's driving half.
+    const uint32_t from = LoadVertex(from_pin);
+    const uint32_t to = IsCheck(item.role) || item.role == EdgeRole::kOtherCheck
+                            ? LoadVertex(to_pin)
+                            : DriverVertex(to_pin);
+    graph.AddEdge(Edge{from, to, item.arc_set, item.role, item.arcs, 0});
   }
-  graph.ResetVertices(max_id);
-  for (cdm::Pin* pin : pins) {
-    graph.SetVertex(pin->GetVertexId(), pin, pin->IsNetDriver(), pin->IsNetLoad());
+}
+
+}  // namespace
+
+void BuildTimingGraph(const cdm::Elaboration& elaboration, TimingGraph& graph) {
+  const uint32_t count = elaboration.VertexCount();
+  graph.ResetVertices(count);
+  for (uint32_t id = 1; id <= count; ++id) {
+    const bool drives = elaboration.VertexDrives(id);
+    graph.SetVertex(id, elaboration.VertexPin(id), drives, !drives);
   }
 
-  // Cell arcs, each cell once (its pins come one after another).
+  // Cell arcs, each cell once: its pins have consecutive vertices.
   std::unordered_map<const cdm::LibCell*, std::vector<EdgeTemplate>> templates;
   const cdm::Cell* last_cell = nullptr;
-  for (cdm::Pin* pin : pins) {
-    const cdm::Cell* cell = pin->GetCell();
+  for (uint32_t id = 1; id <= count; ++id) {
+    const cdm::Cell* cell = elaboration.VertexPin(id)->GetCell();
     if (!cell || cell == last_cell) continue;
     last_cell = cell;
-    const cdm::LibCell* lib_cell = cell->GetRefLibCell();
-    if (!lib_cell) continue;
-    auto found = templates.find(lib_cell);
-    if (found == templates.end()) found = templates.emplace(lib_cell, MakeTemplates(*cell)).first;
-    for (const EdgeTemplate& item : found->second) {
-      const uint32_t from = cell->GetPin(item.from_pin)->GetVertexId();
-      const uint32_t to = cell->GetPin(item.to_pin)->GetVertexId();
-      graph.AddEdge(Edge{from, to, item.arc_set, item.role, item.arcs, 0});
-    }
+    AddCellEdges(*cell, templates, graph);
   }
 
-  // Wires: every driver of a flat net to every load of it.
-  std::vector<cdm::Pin*> loads;
-  for (cdm::Pin* pin : pins) {
-    if (!pin->IsNetDriver() || !pin->GetNet()) continue;
-    loads.clear();
-    pin->GetFanoutPins(loads, cdm::kHierFlat);
-    for (cdm::Pin* load : loads) {
-      const uint32_t to = load->GetVertexId();
-      if (to == 0 || to == pin->GetVertexId() || !graph.HasVertex(to)) continue;
-      graph.AddEdge(Edge{pin->GetVertexId(), to, nullptr, EdgeRole::kWire, kArcsUnate, 0});
+  // Wires: every driver of a flat net to every load of it (the two halves
+  // of one inout pin are not joined).
+  for (uint32_t net = 1; net <= elaboration.FlatNetCount(); ++net) {
+    const cdm::FlatNetRecord& record = elaboration.FlatNet(net);
+    const uint32_t* drivers = elaboration.FlatNetDrivers(net);
+    const uint32_t* loads = elaboration.FlatNetLoads(net);
+    for (uint32_t d = 0; d < record.driver_count; ++d) {
+      const cdm::Pin* driver_pin = elaboration.VertexPin(drivers[d]);
+      for (uint32_t l = 0; l < record.load_count; ++l) {
+        if (elaboration.VertexPin(loads[l]) == driver_pin) continue;
+        graph.AddEdge(Edge{drivers[d], loads[l], nullptr, EdgeRole::kWire, kArcsUnate, 0});
+      }
     }
   }
   graph.Finish();

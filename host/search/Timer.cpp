@@ -1,49 +1,55 @@
 #include "search/Timer.h"
 
-#include "db/Netlist.h"
-#include "dcalc/DelayCalcInputs.h"
+#include "db/Elaboration.h"
 #include "dcalc/LumpedCapDelayCalc.h"
 #include "graph/GraphBuilder.h"
 #include "graph/Levelizer.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Root.h"
 #include "hostapi/msg/Msg.h"
+#include "hostapi/sta/SdcMain.h"
+#include "hostapi/sta/SdcMgr.h"
+#include "sdc/SdcStore.h"
+#include "search/TimingInputs.h"
 
 namespace sta {
 
 Timer::Timer(cdm::Root* root)
-    : root_(root),
-      calculator_(std::make_unique<LumpedCapDelayCalc>()),
-      inputs_(std::make_unique<DelayCalcInputs>()) {}
+    : root_(root), calculator_(std::make_unique<LumpedCapDelayCalc>()) {}
 
 Timer::~Timer() = default;
 
 cdm::Design* Timer::Design() const {
   cdm::Design* design = root_->GetCurrentDesign();
-  if (!design || !design->GetNetlist() || !design->GetNetlist()->IsLinked()) return nullptr;
+  const cdm::Elaboration* elaboration = root_->GetElaboration();
+  if (!design || !elaboration || elaboration->Top() != design) return nullptr;
   return design;
 }
 
-TimingGraph* Timer::EnsureGraph() {
+sdc::SdcStore* Timer::Store() const {
   cdm::Design* design = Design();
-  if (!design) {
+  if (!design) return nullptr;
+  sdc::SdcStore& store = sdc::SdcMain::getOrCreateSdcMgr(design)->store();
+  return store.Sync() ? &store : nullptr;
+}
+
+TimingGraph* Timer::EnsureGraph() {
+  if (!Design()) {
     graph_.reset();
-    graph_design_ = nullptr;
+    timed_valid_ = false;
     return nullptr;
   }
-  if (!graph_ || graph_design_ != design || graph_generation_ != root_->ChangeGeneration()) {
-    BuildGraph(design);
-  }
+  if (!graph_ || graph_generation_ != root_->ChangeGeneration()) BuildGraph(*root_->GetElaboration());
   return graph_.get();
 }
 
-void Timer::BuildGraph(cdm::Design* design) {
+void Timer::BuildGraph(const cdm::Elaboration& elaboration) {
   graph_ = std::make_unique<TimingGraph>();
-  BuildTimingGraph(design, *graph_);
+  BuildTimingGraph(elaboration, *graph_);
   ReportLoops(LevelizeGraph(*graph_));
-  graph_design_ = design;
   graph_generation_ = root_->ChangeGeneration();
-  timed_generation_ = 0;
+  timed_valid_ = false;
+  ++graph_build_count_;
 }
 
 void Timer::ReportLoops(const std::vector<CutLoop>& loops) const {
@@ -57,13 +63,29 @@ void Timer::ReportLoops(const std::vector<CutLoop>& loops) const {
   }
 }
 
+Timer::Stamp Timer::Current() const {
+  Stamp stamp;
+  stamp.database = root_->ChangeGeneration();
+  if (sdc::SdcStore* store = Store()) stamp.constraints = store->Generation();
+  return stamp;
+}
+
 bool Timer::Update(bool full) {
   TimingGraph* graph = EnsureGraph();
   if (!graph) return false;
-  const uint64_t generation = root_->ChangeGeneration();
-  if (!full && timed_generation_ == generation) return true;
-  delay_calc_.Run(*graph, *calculator_, *inputs_, root_->GetDefaultLiberty());
-  timed_generation_ = generation;
+  sdc::SdcStore* store = Store();
+  const Stamp stamp = Current();
+  if (!full && timed_valid_ && timed_ == stamp) return true;
+  // Counted as not done until it ends: an interrupted update is redone.
+  timed_valid_ = false;
+  cdm::Design* design = Design();
+  sensitization_.Run(*graph, store, design);
+  static const std::vector<sdc::Clock*> kNoClocks;
+  clock_network_.Build(*graph, store ? store->Clocks() : kNoClocks, sensitization_);
+  const TimingInputs inputs(store, clock_network_, sensitization_);
+  delay_calc_.Run(*graph, *calculator_, inputs, root_->GetDefaultLiberty());
+  timed_ = stamp;
+  timed_valid_ = true;
   ++update_count_;
   return true;
 }

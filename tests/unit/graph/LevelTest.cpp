@@ -76,4 +76,65 @@ endmodule)";
   EXPECT_EQ(capture.Take(), "");
 }
 
+// An inout pin has two vertices: its own identifier drives its net, the
+// next one loads it. Arcs leave the loading half and reach the driving half,
+// so that a pad driving and reading one net makes no loop.
+TEST_F(LevelTest, AnInoutPinDrivesFromItsFirstVertexAndLoadsAtTheSecond) {
+  Load(R"(module top(a, en, io, y);
+  input a, en; inout io; output y;
+  BIDI u1(.A(a), .EN(en), .PAD(io), .Y(y));
+endmodule)");
+  formattest::CaptureResult capture;
+  sta::TimingGraph* graph = timer_->EnsureGraph();
+  ASSERT_NE(graph, nullptr);
+  EXPECT_EQ(capture.Take(), "");  // no loop
+  const uint32_t pad = Id("u1/PAD");
+  const uint32_t port = Id("io");
+  ASSERT_NE(graph->vertex(pad + 1), nullptr);
+  EXPECT_EQ(graph->vertex(pad + 1)->pin(), Pin("u1/PAD"));
+  EXPECT_TRUE(graph->vertex(pad)->isDriver());
+  EXPECT_TRUE(graph->vertex(pad + 1)->isLoad());
+  EXPECT_TRUE(graph->vertex(port)->isDriver());
+  EXPECT_TRUE(graph->vertex(port + 1)->isLoad());
+  // io drives the pad's loading half; the pad's driving half loads io.
+  EXPECT_EQ(graph->vertex(port)->level(), 0u);
+  EXPECT_EQ(graph->vertex(pad + 1)->level(), 1u);
+  EXPECT_EQ(Level("u1/Y"), 2u);
+  EXPECT_EQ(Level("y"), 3u);
+  EXPECT_EQ(graph->vertex(pad)->level(), 2u);  // from a, through u1/A
+  EXPECT_EQ(graph->vertex(port + 1)->level(), 3u);
+  auto has_edge = [&](uint32_t from, uint32_t to) {
+    for (uint32_t e = graph->OutBegin(from); e < graph->OutEnd(from); ++e)
+      if (graph->Edges()[e].to == to) return true;
+    return false;
+  };
+  EXPECT_TRUE(has_edge(port, pad + 1));
+  EXPECT_TRUE(has_edge(pad, port + 1));
+  EXPECT_FALSE(has_edge(pad, pad + 1));
+  EXPECT_FALSE(has_edge(port, port + 1));
+}
+
+// Wires follow flat nets through hierarchy; hierarchical pins have no vertex.
+TEST_F(LevelTest, WiresCrossHierarchyAndHierarchicalPinsHaveNoVertex) {
+  Load(R"(module inner(i, o);
+  input i; output o; wire m;
+  BUF b1(.A(i), .Z(m));
+  BUF b2(.A(m), .Z(o));
+endmodule
+module top(in, out);
+  input in; output out; wire x;
+  inner h1(.i(in), .o(x));
+  INV g1(.A(x), .Z(out));
+endmodule)");
+  sta::TimingGraph* graph = timer_->EnsureGraph();
+  ASSERT_NE(graph, nullptr);
+  cdm::Pin* hier = root_.GetCurrentDesign()->FindCell("h1")->FindPin("o");
+  ASSERT_NE(hier, nullptr);
+  EXPECT_EQ(hier->GetVertexId(), 0u);
+  EXPECT_EQ(graph->vertex(hier->GetVertexId()), nullptr);
+  // in(0) -> h1/b1/A(1) -> Z(2) -> h1/b2/A(3) -> Z(4) -> g1/A(5) -> Z(6) -> out(7)
+  EXPECT_EQ(Level("g1/A"), 5u);
+  EXPECT_EQ(Level("out"), 7u);
+}
+
 }  // namespace
