@@ -44,10 +44,10 @@ class ClockNetwork {
 
   std::vector<sdc::Clock*> clocks_;
   std::vector<std::vector<uint32_t>> sources_;
-  std::vector<uint32_t> set_of_;                // per vertex: index into sets_
-  std::vector<std::vector<uint32_t>> sets_;     // 0 is the empty set
+  std::vector<uint32_t> set_of_;             // per vertex: index into sets_
+  std::vector<std::vector<uint32_t>> sets_;  // 0 is the empty set
   std::map<std::vector<uint32_t>, uint32_t> set_index_;
-  std::vector<bool> ideal_;                      // per clock
+  std::vector<bool> ideal_;  // per clock
 };
 
 }  // namespace sta

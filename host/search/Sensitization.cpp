@@ -63,8 +63,7 @@ int Reachable(const std::vector<bool>& table, const std::vector<int>& fixed, int
 
 }  // namespace
 
-void Sensitization::Run(const TimingGraph& graph, sdc::SdcStore* store,
-                        const cdm::Design* design) {
+void Sensitization::Run(const TimingGraph& graph, sdc::SdcStore* store, const cdm::Design* design) {
   const uint32_t count = graph.TableSize();
   values_.assign(count, 0);
   forced_.assign(count, 0);

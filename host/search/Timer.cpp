@@ -14,8 +14,7 @@
 
 namespace sta {
 
-Timer::Timer(cdm::Root* root)
-    : root_(root), calculator_(std::make_unique<LumpedCapDelayCalc>()) {}
+Timer::Timer(cdm::Root* root) : root_(root), calculator_(std::make_unique<LumpedCapDelayCalc>()) {}
 
 Timer::~Timer() = default;
 
@@ -39,7 +38,8 @@ TimingGraph* Timer::EnsureGraph() {
     timed_valid_ = false;
     return nullptr;
   }
-  if (!graph_ || graph_generation_ != root_->ChangeGeneration()) BuildGraph(*root_->GetElaboration());
+  if (!graph_ || graph_generation_ != root_->ChangeGeneration())
+    BuildGraph(*root_->GetElaboration());
   return graph_.get();
 }
 

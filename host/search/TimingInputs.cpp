@@ -1,9 +1,9 @@
 #include "search/TimingInputs.h"
 
 #include "hostapi/cdm/Pin.h"
+#include "sdc/SdcStore.h"
 #include "search/ClockNetwork.h"
 #include "search/Sensitization.h"
-#include "sdc/SdcStore.h"
 
 namespace sta {
 namespace {

@@ -17,8 +17,7 @@ class Sensitization;
 class TimingInputs : public DelayCalcInputs {
  public:
   // `store` may be null (no constraints); the others must outlive the run.
-  TimingInputs(sdc::SdcStore* store, const ClockNetwork& clocks,
-               const Sensitization& sensitization)
+  TimingInputs(sdc::SdcStore* store, const ClockNetwork& clocks, const Sensitization& sensitization)
       : store_(store), clocks_(clocks), sensitization_(sensitization) {}
 
   float PortLoad(const cdm::Pin* port_pin, int rf, int mm) const override;
