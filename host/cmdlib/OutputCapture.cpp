@@ -3,7 +3,7 @@
 #include <cstdio>
 
 #include "cmdlib/TclBinding.h"
-#include "hostapi/msg/ResultChannel.h"
+#include "msg/ResultChannel.h"
 
 namespace cmdlib {
 

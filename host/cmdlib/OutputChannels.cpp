@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <string_view>
 
-#include "hostapi/msg/ResultChannel.h"
+#include "msg/ResultChannel.h"
 
 namespace cmdlib {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "hostapi/msg/ResultChannel.h"
+#include "msg/ResultChannel.h"
 #include "msg/MessageBook.h"
 #include "msg/SessionLog.h"
 

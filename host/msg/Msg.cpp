@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "hostapi/msg/ResultChannel.h"
+#include "msg/ResultChannel.h"
 #include "msg/HostMsg.h"
 #include "msg/MsgCatalogue.h"
 

@@ -5,7 +5,7 @@
 
 #include "cmdlib/HostCommands.h"
 #include "cmdlib/TclCmd.h"
-#include "hostapi/msg/ResultChannel.h"
+#include "msg/ResultChannel.h"
 #include "shell/ScriptLocation.h"
 
 namespace shell {

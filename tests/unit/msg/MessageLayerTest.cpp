@@ -6,7 +6,7 @@
 #include <string>
 
 #include "hostapi/msg/Msg.h"
-#include "hostapi/msg/ResultChannel.h"
+#include "msg/ResultChannel.h"
 
 namespace {
 

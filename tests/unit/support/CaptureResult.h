@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "hostapi/msg/ResultChannel.h"
+#include "msg/ResultChannel.h"
 
 namespace formattest {
 
