@@ -82,7 +82,7 @@ struct Resolution {
 
 class Linker {
  public:
-  Linker(Root* root, std::vector<std::string>& warnings) : root_(root), warnings_(warnings) {}
+  Linker(Root* root, std::vector<LinkWarning>& warnings) : root_(root), warnings_(warnings) {}
 
   bool CheckRecursion(Design* top, std::string& error) {
     // Depth first without recursion: a module may nest deeply.
@@ -126,9 +126,11 @@ class Linker {
           if (seen.insert(child).second) order.push_back(child);
     for (Design* design : order) Bind(design);
     for (const auto& entry : unresolved_)
-      warnings_.push_back("Warning: Unable to resolve reference '" + entry.first + "' (" +
-                          std::to_string(entry.second) + (entry.second == 1 ? " cell" : " cells") +
-                          "); it stays without library cell or design.");
+      warnings_.push_back(LinkWarning{
+          "", 0,
+          "Unable to resolve reference '" + entry.first + "' (" + std::to_string(entry.second) +
+              (entry.second == 1 ? " cell" : " cells") +
+              "); it stays without library cell or design."});
   }
 
  private:
@@ -158,9 +160,10 @@ class Linker {
   }
 
   void Warn(const Netlist* netlist, const Cell& cell, uint32_t line, const std::string& what) {
-    warnings_.push_back("Warning: " + netlist->Source().file + ":" + std::to_string(line) +
-                        ": instance '" + std::string(netlist->CellName(netlist->IndexOf(&cell))) +
-                        "' of '" + cell.GetRefName() + "' " + what);
+    warnings_.push_back(LinkWarning{netlist->Source().file, line,
+                                    "instance '" +
+                                        std::string(netlist->CellName(netlist->IndexOf(&cell))) +
+                                        "' of '" + cell.GetRefName() + "' " + what});
   }
 
   // The stub ports of an unresolved cell, named after its connections.
@@ -291,7 +294,7 @@ class Linker {
   }
 
   Root* root_;
-  std::vector<std::string>& warnings_;
+  std::vector<LinkWarning>& warnings_;
   std::map<std::string, int> unresolved_;
   std::unordered_map<std::string, Resolution> resolutions_;  // node-based: addresses stay
   std::unordered_map<const std::string*, const Resolution*> by_address_;
@@ -322,6 +325,18 @@ Design* FindTopDesign(Root* root, std::string& error) {
 }
 
 bool LinkDesign(Root* root, Design* top, std::vector<std::string>& warnings, std::string& error) {
+  std::vector<LinkWarning> found;
+  bool linked = LinkDesign(root, top, found, error);
+  for (const LinkWarning& warning : found)
+    warnings.push_back("Warning: " +
+                       (warning.file.empty()
+                            ? std::string()
+                            : warning.file + ":" + std::to_string(warning.line) + ": ") +
+                       warning.text);
+  return linked;
+}
+
+bool LinkDesign(Root* root, Design* top, std::vector<LinkWarning>& warnings, std::string& error) {
   Linker linker(root, warnings);
   if (!linker.CheckRecursion(top, error)) return false;
   // Copies of the old elaboration point into definitions about to be rebound.

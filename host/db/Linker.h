@@ -2,6 +2,7 @@
 // instantiates, and elaborating the hierarchy below the current design.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -14,10 +15,20 @@ class Root;
 // there is none or more than one.
 Design* FindTopDesign(Root* root, std::string& error);
 
+// A problem link found and went past: an unresolved reference (no place), or
+// a connection that does not fit its pin (the instance's file and line).
+struct LinkWarning {
+  std::string file;
+  uint32_t line = 0;
+  std::string text;
+};
+
 // Binds every cell of `top` and of the designs below it, connects pins and
 // nets, and makes `top` the current design. False with `error` on a
 // recursive instantiation (nothing changes then). Unresolved references and
-// connection problems are `warnings`, one line each.
+// connection problems are `warnings`.
+bool LinkDesign(Root* root, Design* top, std::vector<LinkWarning>& warnings, std::string& error);
+// The same with each warning as one line, "Warning: FILE:LINE: text".
 bool LinkDesign(Root* root, Design* top, std::vector<std::string>& warnings, std::string& error);
 
 // Lays the hierarchy out below `top`: each hierarchical cell gets a netlist
