@@ -1,8 +1,10 @@
 #include "hostapi/cdm/Cell.h"
 
 #include "db/Netlist.h"
+#include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/LibCell.h"
+#include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Pin.h"
 
 namespace cdm {
@@ -62,6 +64,16 @@ uint32_t Cell::PinCount() const {
 
 Pin* Cell::GetPin(uint32_t index) const {
   return index < PinCount() ? netlist_->PinAt(first_pin_ + index) : nullptr;
+}
+
+bool Cell::IsConstCell() const {
+  LibCell* lib_cell = GetRefLibCell();
+  return lib_cell && lib_cell->GetConstOutputValue() >= 0;
+}
+
+bool Cell::IsGTechCell() const {
+  LibCell* lib_cell = GetRefLibCell();
+  return lib_cell && lib_cell->GetLibertyLib() == DbManager::GetGenericLib();
 }
 
 Netlist* Cell::GetChildNetlist() const {

@@ -126,11 +126,11 @@ class Linker {
           if (seen.insert(child).second) order.push_back(child);
     for (Design* design : order) Bind(design);
     for (const auto& entry : unresolved_)
-      warnings_.push_back(LinkWarning{
-          "", 0,
-          "Unable to resolve reference '" + entry.first + "' (" + std::to_string(entry.second) +
-              (entry.second == 1 ? " cell" : " cells") +
-              "); it stays without library cell or design."});
+      warnings_.push_back(LinkWarning{"", 0,
+                                      "Unable to resolve reference '" + entry.first + "' (" +
+                                          std::to_string(entry.second) +
+                                          (entry.second == 1 ? " cell" : " cells") +
+                                          "); it stays without library cell or design."});
   }
 
  private:

@@ -1,8 +1,12 @@
 #include "hostapi/cdm/Pin.h"
 
+#include <algorithm>
 #include "db/FlatNet.h"
 #include "db/Netlist.h"
+
 #include "hostapi/cdm/Cell.h"
+#include "hostapi/cdm/LibCell.h"
+#include "hostapi/cdm/LibPort.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Port.h"
 
@@ -32,6 +36,13 @@ uint8_t Pin::GetDirection() const {
 }
 
 namespace {
+
+// The library port and cell of a leaf pin; null for other pins.
+LibPort* LibPortOf(const Pin* pin) {
+  Cell* cell = pin->GetCell();
+  if (!cell || !cell->GetRefLibCell()) return nullptr;
+  return dynamic_cast<LibPort*>(pin->GetPort());
+}
 
 // A pin that only drives (or only loads) its net stands in its own fan-in
 // (fan-out): the cone of an output pin starts at that pin. An inout pin,
@@ -70,6 +81,40 @@ int Pin::GetConstValue() const {
   if (!net) return -1;
   int value = net->GetConstValue();
   return value == 0 || value == 1 ? value : -1;
+}
+
+float Pin::Capacitance(const RiseFall* edge, const MinMax* minmax) const {
+  LibPort* port = LibPortOf(this);
+  if (!port) return 0.0f;
+  return std::max(0.0f, static_cast<float>(port->GetCapacitance(edge, minmax)));
+}
+
+Pin* Pin::GetInputOutputPin(bool through_sequential) const {
+  LibPort* port = LibPortOf(this);
+  if (!port || port->direction != kDirInput) return nullptr;
+  Cell* cell = GetCell();
+  LibCell* lib_cell = cell->GetRefLibCell();
+  if (lib_cell->IsSequentialCell() && !through_sequential) return nullptr;
+  for (LibPort* out : lib_cell->GetCellToPorts(port))
+    if (Pin* pin = cell->FindPin(out->Name())) return pin;
+  return nullptr;
+}
+
+std::vector<Pin*> Pin::GetOutputInputPins(bool through_sequential) const {
+  std::vector<Pin*> inputs;
+  LibPort* port = LibPortOf(this);
+  if (!port || !port->IsOutput()) return inputs;
+  Cell* cell = GetCell();
+  LibCell* lib_cell = cell->GetRefLibCell();
+  if (lib_cell->IsSequentialCell() && !through_sequential) return inputs;
+  for (uint32_t i = 0; i < cell->PinCount(); ++i) {
+    Pin* pin = cell->GetPin(i);
+    LibPort* input = dynamic_cast<LibPort*>(pin->GetPort());
+    if (!input || input->direction != kDirInput) continue;
+    std::vector<LibPort*> outs = lib_cell->GetCellToPorts(input);
+    if (std::find(outs.begin(), outs.end(), port) != outs.end()) inputs.push_back(pin);
+  }
+  return inputs;
 }
 
 }  // namespace cdm
