@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <set>
 #include <unordered_map>
 
@@ -9,66 +10,13 @@
 #include "db/LibAccess.h"
 #include "db/Netlist.h"
 #include "db/NetlistEditor.h"
+#include "db/PinGroups.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Root.h"
+#include "msg/Progress.h"
 
 namespace cdm {
 namespace {
-
-// Index from a connection's port name to the pins it covers, most
-// significant first: a scalar port, or the bits "name[i]" of a bus; a bit
-// is also found by its own name.
-class PinGroups {
- public:
-  explicit PinGroups(const std::vector<Port*>& ports) {
-    for (uint32_t i = 0; i < ports.size(); ++i) {
-      const std::string& name = ports[i]->Name();
-      size_t bracket = name.rfind('[');
-      bool is_bit = bracket != std::string::npos && bracket > 0 && name.back() == ']';
-      std::string_view group = is_bit ? std::string_view(name).substr(0, bracket) : name;
-      int bit = is_bit ? std::atoi(name.c_str() + bracket + 1) : 0;
-      auto found = index_.find(group);
-      if (found == index_.end()) {
-        order_.push_back(group);
-        found = index_.emplace(group, Group()).first;
-      }
-      found->second.members.emplace_back(bit, i);
-      if (is_bit) bits_.emplace(name, i);
-    }
-    for (auto& entry : index_) {
-      Group& group = entry.second;
-      // Library buses list their bits in any order: most significant first.
-      if (group.members.size() > 1 && !ports[group.members[0].second]->GetDesign())
-        std::stable_sort(group.members.begin(), group.members.end(),
-                         [](const auto& a, const auto& b) { return a.first > b.first; });
-    }
-  }
-
-  // Pins of the named port; empty if the reference has no such port.
-  void ByName(const std::string& name, std::vector<uint32_t>& pins) const {
-    pins.clear();
-    auto found = index_.find(name);
-    if (found != index_.end()) {
-      for (const auto& member : found->second.members) pins.push_back(member.second);
-      return;
-    }
-    auto bit = bits_.find(name);
-    if (bit != bits_.end()) pins.push_back(bit->second);
-  }
-  void ByPosition(uint32_t position, std::vector<uint32_t>& pins) const {
-    pins.clear();
-    if (position >= order_.size()) return;
-    for (const auto& member : index_.at(order_[position]).members) pins.push_back(member.second);
-  }
-
- private:
-  struct Group {
-    std::vector<std::pair<int, uint32_t>> members;
-  };
-  std::unordered_map<std::string_view, Group> index_;
-  std::unordered_map<std::string_view, uint32_t> bits_;
-  std::vector<std::string_view> order_;
-};
 
 enum RefKind { kUnresolvedRef = 0, kLibRef = 1, kDesignRef = 2 };
 
@@ -124,7 +72,15 @@ class Linker {
       for (const Cell& cell : order[i]->GetNetlist()->Cells())
         if (Design* child = root_->FindDesign(cell.GetRefName()))
           if (seen.insert(child).second) order.push_back(child);
+    // A progress line for the designs of more than a million instances.
+    uint64_t total = 0;
+    for (Design* design : order) total += design->GetNetlist()->CellCount();
+    std::unique_ptr<msg::Progress> progress;
+    if (total > 1000000)
+      progress = std::make_unique<msg::Progress>("Linking " + top->Name(), total);
+    progress_ = progress.get();
     for (Design* design : order) Bind(design);
+    progress_ = nullptr;
     for (const auto& entry : unresolved_)
       warnings_.push_back(LinkWarning{"", 0,
                                       "Unable to resolve reference '" + entry.first + "' (" +
@@ -239,6 +195,7 @@ class Linker {
     ConnSource conn;
     std::vector<uint32_t> targets;
     for (uint32_t i = 0; i < cells && cursor.NextInstance(line, conns); ++i) {
+      if (progress_ && (i & 0xffff) == 0) progress_->Update(bound_ + i);
       Cell& cell = netlist->Cells()[i];
       const Resolution& resolution = Resolve(cell.GetRefName());
       const bool unresolved = resolution.kind == kUnresolvedRef;
@@ -291,6 +248,7 @@ class Linker {
       }
     }
     NetlistEditor::FinishLink(netlist);
+    bound_ += cells;
   }
 
   Root* root_;
@@ -298,6 +256,8 @@ class Linker {
   std::map<std::string, int> unresolved_;
   std::unordered_map<std::string, Resolution> resolutions_;  // node-based: addresses stay
   std::unordered_map<const std::string*, const Resolution*> by_address_;
+  msg::Progress* progress_ = nullptr;
+  uint64_t bound_ = 0;  // cells bound so far, for the progress line
 };
 
 }  // namespace

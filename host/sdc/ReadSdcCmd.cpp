@@ -11,7 +11,7 @@
 #include "cmdlib/HostCommands.h"
 #include "cmdlib/ReadFiles.h"
 #include "hostapi/cmd/CommonCmd.h"
-#include "hostapi/msg/ResultChannel.h"
+#include "msg/ResultChannel.h"
 #include "sdc/SdcSource.h"
 
 namespace sta::sdc {
