@@ -77,9 +77,9 @@ class Net : public Object {
   void GetFanoutPins(std::vector<Pin*>& pins, HierarchyMode mode) const;
 
   // Wire capacitance (F) and resistance (ohm) of the net, estimated by the
-  // flat fan-out from the wire-load model in force (set_wire_load_model,
-  // else the default library's default_wire_load); 0 and 0 without one.
-  // `conditions` scales nothing yet; may be null.
+  // flat fan-out from the wire-load model and mode in force (see
+  // docs/constraints.md); 0 and 0 without a model. `conditions` scales
+  // nothing yet; may be null.
   void NetCapAndRes(const OperatingConditions* conditions, float& wire_cap, float& resistance,
                     const MinMax* minmax, HierarchyMode mode) const;
 
