@@ -65,7 +65,10 @@ bool SdcMgr::hasDrivingCell() {
 
 const cdm::WireLoad* SdcMgr::getWireLoadModel(const cdm::MinMax* minmax) {
   if (!store_->Sync()) return nullptr;
-  return DesignWireLoad(*store_, minmax);
+  // The library's default model is not reported as set: callers fall back
+  // to it themselves.
+  const WireLoadChoice choice = ChooseDesignWireLoad(*store_, minmax);
+  return choice.source == WireLoadChoice::Source::kLibraryDefault ? nullptr : choice.model;
 }
 
 const cdm::WireLoad* SdcMgr::getWireLoadModel(const cdm::Port* port, const cdm::MinMax* minmax) {
