@@ -61,25 +61,6 @@ std::vector<std::string> SplitBlank(std::string_view text) {
   return words;
 }
 
-struct TableRow {
-  std::vector<std::string> inputs;
-  std::vector<std::string> current;
-  std::vector<std::string> next;
-};
-
-// Does an input symbol accept the value before and after (the same for an
-// input that takes one column)?
-bool InputMatches(const std::string& symbol, int before, int after) {
-  if (symbol == "-") return true;
-  if (symbol == "L") return after == 0;
-  if (symbol == "H") return after == 1;
-  if (symbol == "R") return before == 0 && after == 1;
-  if (symbol == "F") return before == 1 && after == 0;
-  if (symbol == "~R") return !(before == 0 && after == 1);
-  if (symbol == "~F") return !(before == 1 && after == 0);
-  return false;
-}
-
 bool IsInputSymbol(const std::string& symbol) {
   return symbol == "L" || symbol == "H" || symbol == "-" || symbol == "R" || symbol == "F" ||
          symbol == "~R" || symbol == "~F";
@@ -109,7 +90,7 @@ bool LibEditor::StateTableGroup(LibCell* cell, const Statement& st) {
   }
   const size_t inputs = table->input_ports.size();
   const size_t internals = table->internal_ports.size();
-  std::vector<TableRow> rows;
+  std::vector<StateTableRows::Line> rows;
   for (const Statement& child : st.children) {
     if (child.name != "table") continue;
     std::string text;
@@ -124,9 +105,9 @@ bool LibEditor::StateTableGroup(LibCell* cell, const Statement& st) {
       const size_t colon2 = colon1 == std::string::npos ? colon1 : row_text.find(':', colon1 + 1);
       if (colon2 == std::string::npos)
         return Fail(child, "expected 'inputs : state : next state' in row \"" + row_text + "\"");
-      TableRow row{SplitBlank(row_text.substr(0, colon1)),
-                   SplitBlank(row_text.substr(colon1 + 1, colon2 - colon1 - 1)),
-                   SplitBlank(row_text.substr(colon2 + 1))};
+      StateTableRows::Line row{SplitBlank(row_text.substr(0, colon1)),
+                               SplitBlank(row_text.substr(colon1 + 1, colon2 - colon1 - 1)),
+                               SplitBlank(row_text.substr(colon2 + 1))};
       if (row.inputs.size() != inputs || row.current.size() != internals ||
           row.next.size() != internals) {
         return Fail(child, "expected " + std::to_string(inputs) + " inputs and " +
@@ -147,7 +128,7 @@ bool LibEditor::StateTableGroup(LibCell* cell, const Statement& st) {
   }
   // Inputs with an edge in some row take two columns; internal ports with a
   // level in some row are read by the table.
-  for (const TableRow& row : rows) {
+  for (const StateTableRows::Line& row : rows) {
     for (size_t i = 0; i < inputs; ++i) {
       const std::string& symbol = row.inputs[i];
       if (symbol == "R" || symbol == "F" || symbol == "~R" || symbol == "~F")
@@ -156,7 +137,7 @@ bool LibEditor::StateTableGroup(LibCell* cell, const Statement& st) {
   }
   std::vector<int> used;
   for (size_t k = 0; k < internals; ++k) {
-    for (const TableRow& row : rows) {
+    for (const StateTableRows::Line& row : rows) {
       if (row.current[k] != "-") {
         used.push_back(static_cast<int>(k));
         break;
@@ -164,44 +145,8 @@ bool LibEditor::StateTableGroup(LibCell* cell, const Statement& st) {
     }
   }
   table->SetUsedInternalPortsIndex(used);
-  const size_t input_bits = inputs + table->doubled_inputs.size();
-  const size_t bits = input_bits + internals;
-  // Beyond 2^20 rows the table is kept unexpanded, and so is a table whose
-  // unfolding would take more than kMaxExpandedTexts texts of memory or
-  // kMaxExpansionTests row tests of time (twenty internal pins, or a table
-  // of thousands of rows).
-  constexpr uint64_t kMaxExpandedTexts = uint64_t{1} << 22;
-  constexpr uint64_t kMaxExpansionTests = uint64_t{1} << 28;
-  if (bits <= 20 && (uint64_t{internals} << bits) <= kMaxExpandedTexts &&
-      (uint64_t{rows.size()} << bits) <= kMaxExpansionTests) {
-    table->expanded_rows.assign(size_t{1} << bits, std::vector<std::string>(internals, "X"));
-    for (size_t index = 0; index < table->expanded_rows.size(); ++index) {
-      // Read the bits: inputs from the most significant end, a doubled
-      // input's starred (before) column first.
-      size_t bit = bits;
-      auto next_bit = [&]() { return static_cast<int>((index >> --bit) & 1); };
-      std::vector<int> before(inputs);
-      std::vector<int> after(inputs);
-      for (size_t i = 0; i < inputs; ++i) {
-        if (table->doubled_inputs.count(static_cast<unsigned>(i))) before[i] = next_bit();
-        after[i] = next_bit();
-        if (!table->doubled_inputs.count(static_cast<unsigned>(i))) before[i] = after[i];
-      }
-      std::vector<int> state(internals);
-      for (size_t k = 0; k < internals; ++k) state[k] = next_bit();
-      for (const TableRow& row : rows) {
-        bool match = true;
-        for (size_t i = 0; i < inputs && match; ++i)
-          match = InputMatches(row.inputs[i], before[i], after[i]);
-        for (size_t k = 0; k < internals && match; ++k) {
-          match = row.current[k] == "-" || (row.current[k] == "H") == (state[k] == 1);
-        }
-        if (!match) continue;
-        table->expanded_rows[index] = row.next;
-        break;
-      }
-    }
-  }
+  // The rows are made when read: a table of any width costs its lines only.
+  table->expanded_rows = StateTableRows(std::move(rows), table->doubled_inputs, inputs, internals);
   cell->state_table_ = std::move(table);
   return true;
 }

@@ -88,7 +88,9 @@ void PrintTimingGroupHead(std::ostream& os, cdm::LibertyLib* lib, cdm::LibPort* 
 void PrintCellStateTable(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names, bool full);
 void PrintOneCellStateTable(std::ostream& os, cdm::LibertyLib* lib, cdm::LibCell* cell, bool full);
 // The next-state column of one internal pin, packed or one line per row.
-void PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, size_t pin,
+// False when the row index passed the last row of the table: a line says
+// so, and the cell's table ends there.
+bool PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, size_t pin,
                            bool full);
 
 // Side tables.

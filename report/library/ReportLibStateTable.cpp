@@ -1,7 +1,7 @@
 // State tables of report_lib: per sequential cell its outputs with their
 // state functions and, per internal pin, the next-state column of the table.
 #include <cstdint>
-#include <stdexcept>
+#include <string>
 
 #include "library/ReportLibSections.h"
 
@@ -82,13 +82,13 @@ void PrintStateTablePart(std::ostream& os, const cdm::LibStateTable* table,
        << "  END_PIN " << port->Name() << ";\n\n";
   }
   for (size_t pin = 0; pin < table->internal_ports.size(); ++pin) {
-    PrintInternalPinTable(os, table, pin, full);
+    if (!PrintInternalPinTable(os, table, pin, full)) return;
   }
 }
 
 }  // namespace
 
-void PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, size_t pin,
+bool PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, size_t pin,
                            bool full) {
   const std::vector<int> used = table->GetUsedInternalPortsIndex();
   std::string heading = InputHeading(table);
@@ -96,6 +96,11 @@ void PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, si
   const size_t inputs = table->input_ports.size() + table->doubled_inputs.size();
   const uint32_t internals = static_cast<uint32_t>(table->internal_ports.size());
   os << "  INTERNAL PIN(" << table->internal_ports[pin]->Name() << "): " << heading << "\n";
+  // From 32 input columns on, the patterns hold values beyond a signed 32-bit
+  // integer, whose conversion ends the command. The report is printed only
+  // at its end, so it makes no difference which pattern fails: the highest
+  // one is converted first, rather than a list of 2^32 patterns made.
+  if (inputs >= 32) std::stoi(std::string(inputs, '1'), nullptr, 2);
   const std::vector<std::string> input_patterns =
       smartFullPermutation(static_cast<int>(inputs), true);
   const std::vector<std::string> internal_patterns =
@@ -103,38 +108,45 @@ void PrintInternalPinTable(std::ostream& os, const cdm::LibStateTable* table, si
   os << "    TABLE: ";
   if (full) os << "\n";
   std::string packed;
-  const auto cell_text = [&](uint32_t index) -> const std::string& {
-    if (index >= table->expanded_rows.size()) {
-      throw std::out_of_range("state table row " + std::to_string(index) + " is beyond the " +
-                              std::to_string(table->expanded_rows.size()) + " rows of the table");
-    }
-    return table->expanded_rows[index].at(pin);
+  const uint64_t rows = table->expanded_rows.size();
+  // The running sum of the index (below) passes the last row when the table
+  // reads two or more of its internal pins: the table of the cell ends there.
+  auto past_the_rows = [&](uint32_t index) {
+    if (index < rows) return false;
+    if (!full) os << std::string(packed.rbegin(), packed.rend()) << "\n";
+    os << "  TABLE ENDS: row " << index << " is beyond the " << rows
+       << " rows of the state table\n";
+    return true;
   };
   for (const std::string& input : input_patterns) {
     uint32_t index = static_cast<uint32_t>(std::stoi(input, nullptr, 2)) << (internals % 32);
     if (used.empty()) {
+      if (past_the_rows(index)) return false;
+      const std::string cell = table->expanded_rows[index].at(pin);
       if (full) {
-        os << "    " << input << "    " << cell_text(index) << "\n";
+        os << "    " << input << "    " << cell << "\n";
       } else {
-        packed += cell_text(index);
+        packed += cell;
       }
       continue;
     }
     // The index keeps what earlier internal patterns added to it.
     for (const std::string& internal : internal_patterns) {
-      if (full) os << "    " << input << " :" << internal << ":";
       for (size_t j = 0; j < used.size() && j < internal.size(); ++j) {
         if (internal[j] == 'H') index += uint32_t{1} << ((internals - 1 - used[j]) % 32);
       }
+      if (past_the_rows(index)) return false;
+      const std::string cell = table->expanded_rows[index].at(pin);
       if (full) {
-        os << "    " << cell_text(index) << "\n";
+        os << "    " << input << " :" << internal << ":    " << cell << "\n";
       } else {
-        packed += cell_text(index);
+        packed += cell;
       }
     }
   }
   if (!full) os << std::string(packed.rbegin(), packed.rend()) << "\n";
   os << "  END_PIN " << table->internal_ports[pin]->Name() << ";\n";
+  return true;
 }
 
 void PrintCellStateTable(std::ostream& os, cdm::LibertyLib* lib, const CellNames& names,

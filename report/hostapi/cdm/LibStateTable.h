@@ -35,7 +35,46 @@ class LibSequential {
   bool IsLatch() const { return kind == Kind::kLatch; }
 };
 
-// A `statetable` group, unfolded.
+// The rows of a state table unfolded: one row per combination of input bits
+// (high bits) and internal bits (low bits, internal port k weighs
+// 1 << (N - 1 - k)); each row holds one next-state text per internal port:
+// "L", "H", "N" (no change), "X", ... as the first line of the table that
+// matches writes it, "X" when none does. A row is made when it is read, so
+// a table of any width answers without holding its 2^bits rows.
+class StateTableRows {
+ public:
+  // One line of the table as the library writes it.
+  struct Line {
+    std::vector<std::string> inputs;   // per input: L H - R F ~R ~F
+    std::vector<std::string> current;  // per internal port: L H -
+    std::vector<std::string> next;     // per internal port
+  };
+
+  StateTableRows() = default;
+  // The rows of the table `lines` over `inputs` inputs (those of `doubled`
+  // take two columns: the value before, then after) and `internals`
+  // internal ports.
+  StateTableRows(std::vector<Line> lines, std::set<unsigned> doubled, size_t inputs,
+                 size_t internals);
+  // Rows given one by one, for a table built by hand.
+  explicit StateTableRows(std::vector<std::vector<std::string>> rows);
+
+  // 2^bits (saturated at the largest 64-bit value); 0 for no table.
+  uint64_t size() const;
+  bool empty() const { return size() == 0; }
+  // The row `index` (< size()).
+  std::vector<std::string> operator[](uint64_t index) const;
+
+ private:
+  std::vector<Line> lines_;
+  std::set<unsigned> doubled_;
+  size_t inputs_ = 0;
+  size_t internals_ = 0;
+  bool from_lines_ = false;  // else rows_ holds the rows as given
+  std::vector<std::vector<std::string>> rows_;
+};
+
+// A `statetable` group.
 class LibStateTable {
  public:
   std::vector<LibPort*> input_ports;     // input columns, in table order
@@ -43,10 +82,8 @@ class LibStateTable {
   // Indices into input_ports of the inputs that take two columns (edge
   // values: the starred column is the value before, the plain one after).
   std::set<unsigned> doubled_inputs;
-  // One row per combination of input bits (high bits) and internal bits
-  // (low bits, internal port k weighs 1 << (N - 1 - k)); each row holds one
-  // next-state text per internal port: "L", "H", "N" (no change), "X".
-  std::vector<std::vector<std::string>> expanded_rows;
+  // The table unfolded, one row per combination of input and internal bits.
+  StateTableRows expanded_rows;
 
   // Indices of the internal ports whose present value the table reads.
   std::vector<int> GetUsedInternalPortsIndex() const { return used_internal_; }

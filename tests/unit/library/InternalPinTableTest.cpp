@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "hostapi/cdm/LibPort.h"
 #include "hostapi/cdm/LibStateTable.h"
@@ -31,9 +34,10 @@ class InternalPinTableTest : public ::testing::Test {
   }
   std::string Print(const cdm::LibStateTable& table, size_t pin, bool full) {
     std::ostringstream os;
-    PrintInternalPinTable(os, &table, pin, full);
+    ended_ = !PrintInternalPinTable(os, &table, pin, full);
     return os.str();
   }
+  bool ended_ = false;  // the last Print passed the rows
 
  private:
   std::vector<std::unique_ptr<std::string>> names_;
@@ -44,7 +48,7 @@ TEST_F(InternalPinTableTest, WithoutUsedInternalPinsEachInputPatternReadsOneRow)
   cdm::LibStateTable table;
   table.input_ports = {MakePort("D")};
   table.internal_ports = {MakePort("IQ")};
-  table.expanded_rows = {{"L"}, {"x"}, {"H"}, {"y"}};  // index = input << 1
+  table.expanded_rows = cdm::StateTableRows({{"L"}, {"x"}, {"H"}, {"y"}});  // index = input << 1
   EXPECT_EQ(Print(table, 0, true),
             "  INTERNAL PIN(IQ): D\n"
             "    TABLE: \n"
@@ -63,8 +67,9 @@ TEST_F(InternalPinTableTest, DoubledInputTakesAStarredAndAPlainColumn) {
   table.input_ports = {MakePort("CK"), MakePort("D")};
   table.internal_ports = {MakePort("IQ")};
   table.doubled_inputs = {0};
-  table.expanded_rows.assign(16, {"-"});
-  table.expanded_rows[2 << 1] = {"LH"};  // pattern 010
+  std::vector<std::vector<std::string>> rows(16, {"-"});
+  rows[2 << 1] = {"LH"};  // pattern 010
+  table.expanded_rows = cdm::StateTableRows(rows);
   const std::string packed = Print(table, 0, false);
   EXPECT_EQ(packed.substr(0, packed.find('\n')), "  INTERNAL PIN(IQ): CK*, CK, D");
   // Eight patterns over three columns; a value of several characters comes
@@ -77,7 +82,7 @@ TEST_F(InternalPinTableTest, UsedInternalPinsAddTheirBitsOntoARunningSum) {
   table.input_ports = {MakePort("A")};
   table.internal_ports = {MakePort("P"), MakePort("Q")};
   table.SetUsedInternalPortsIndex({0, 1});
-  table.expanded_rows = LetterRows(16);
+  table.expanded_rows = cdm::StateTableRows(LetterRows(16));
   // Input 0: base 0; LL +0 -> a, LH +1 -> b, HL +2 -> d, HH +3 -> g.
   // Input 1: base 4; LL -> e, LH -> f, HL -> h, HH -> k.
   EXPECT_EQ(Print(table, 0, true),
@@ -103,17 +108,63 @@ TEST_F(InternalPinTableTest, OneUsedPinOfTwoWeighsByItsPosition) {
   table.input_ports = {MakePort("A")};
   table.internal_ports = {MakePort("P"), MakePort("Q")};
   table.SetUsedInternalPortsIndex({1});  // Q alone: weight 1
-  table.expanded_rows = LetterRows(8);
+  table.expanded_rows = cdm::StateTableRows(LetterRows(8));
   // Base 0: L -> a, H -> b; base 4: L -> e, H -> f.
   EXPECT_EQ(Print(table, 0, false), "  INTERNAL PIN(P): A, Q*\n    TABLE: feba\n  END_PIN P;\n");
 }
 
-TEST_F(InternalPinTableTest, RowsFewerThanThePatternsEndInAnErrorNotARead) {
+// Two used pins: the running sum reaches 2 + 2 + 3 = 7 on the last
+// pattern of input 0 and passes the 8 rows from input 1 on (4 + 1 = 5,
+// + 2 = 7, + 3 = 10). What was read prints; one line ends the table.
+TEST_F(InternalPinTableTest, ARunningSumPastTheRowsEndsTheTableWithOneLine) {
+  cdm::LibStateTable table;
+  table.input_ports = {MakePort("A")};
+  table.internal_ports = {MakePort("P"), MakePort("Q")};
+  table.SetUsedInternalPortsIndex({0, 1});
+  table.expanded_rows = cdm::StateTableRows(LetterRows(8));
+  EXPECT_EQ(Print(table, 0, true),
+            "  INTERNAL PIN(P): A, P*, Q*\n"
+            "    TABLE: \n"
+            "    0 :LL:    a\n"
+            "    0 :LH:    b\n"
+            "    0 :HL:    d\n"
+            "    0 :HH:    g\n"
+            "    1 :LL:    e\n"
+            "    1 :LH:    f\n"
+            "    1 :HL:    h\n"
+            "  TABLE ENDS: row 10 is beyond the 8 rows of the state table\n");
+  EXPECT_TRUE(ended_);
+  EXPECT_EQ(Print(table, 1, false),
+            "  INTERNAL PIN(Q): A, P*, Q*\n"
+            "    TABLE: HFEGDBA\n"
+            "  TABLE ENDS: row 10 is beyond the 8 rows of the state table\n");
+  EXPECT_TRUE(ended_);
+}
+
+TEST_F(InternalPinTableTest, RowsFewerThanThePatternsAreNeverRead) {
   cdm::LibStateTable table;
   table.input_ports = {MakePort("A"), MakePort("B")};
   table.internal_ports = {MakePort("IQ")};
-  table.expanded_rows = LetterRows(3);
-  EXPECT_THROW(Print(table, 0, false), std::out_of_range);
+  table.expanded_rows = cdm::StateTableRows(LetterRows(3));
+  EXPECT_EQ(Print(table, 0, false),
+            "  INTERNAL PIN(IQ): A, B\n"
+            "    TABLE: ca\n"  // patterns 00 and 01 read rows 0 and 2; 10 would read 4
+            "  TABLE ENDS: row 4 is beyond the 3 rows of the state table\n");
+}
+
+// From 32 input columns the patterns no longer fit a signed 32-bit integer:
+// the conversion fails as a standard one does, under the name "stoi".
+TEST_F(InternalPinTableTest, ThirtyTwoInputColumnsEndInTheConversionError) {
+  cdm::LibStateTable table;
+  for (int i = 0; i < 31; ++i) table.input_ports.push_back(MakePort("I" + std::to_string(i)));
+  table.doubled_inputs = {0};
+  table.internal_ports = {MakePort("IQ")};
+  try {
+    Print(table, 0, false);
+    ADD_FAILURE() << "no error";
+  } catch (const std::out_of_range& error) {
+    EXPECT_STREQ(error.what(), "stoi");
+  }
 }
 
 }  // namespace
