@@ -1,13 +1,7 @@
-// report_design and report_constraint are reported by the host. Their
-// reports are not written yet: they print nothing and fail.
+// report_constraint is reported by the host. Its report is not written
+// yet: it prints nothing and fails. (report_design: host/reports.)
 #include "hostapi/cmd/HostReportCmds.h"
 
-int ReportDesignCmd::exec() {
-  return 1;
-}
-int ReportDesignCmd::postExec() {
-  return 0;
-}
 int ReportConstraintCmd::exec() {
   return 1;
 }
