@@ -84,6 +84,8 @@ class Netlist {
   Net* ConstNet(int value) const;
   bool IsTieNet(const Net* net) const { return IndexOf(net) >= NamedNetCount(); }
   size_t NamedNetCount() const { return definition_->named_net_count_; }
+  // The pool of the definition's cell and net names.
+  const NamePool& Names() const { return definition_->names_; }
   // The merged-away names of nets and the nets they stand for.
   const std::vector<std::pair<uint32_t, uint32_t>>& Aliases() const {
     return definition_->aliases_;

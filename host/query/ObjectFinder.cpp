@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "db/NetNames.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
@@ -41,9 +42,6 @@ std::vector<T*> ByNetlist(const std::vector<T*>& walked, cdm::Netlist* (*netlist
 cdm::Netlist* CellNetlist(const cdm::Cell* cell) {
   return cell->GetNetlist();
 }
-cdm::Netlist* NetNetlist(const cdm::Net* net) {
-  return net->GetNetlist();
-}
 
 std::vector<cdm::Cell*> WalkCells(const cdm::Design* design, bool deep) {
   std::vector<cdm::Cell*> cells;
@@ -56,17 +54,6 @@ std::vector<cdm::Cell*> WalkCells(const cdm::Design* design, bool deep) {
 // The tie nets of bare constants are no nets of the design's text.
 bool IsTieNet(const cdm::Net* net) {
   return net->Name() == "*logic0*" || net->Name() == "*logic1*";
-}
-
-std::vector<cdm::Net*> WalkNets(const cdm::Design* design, bool deep) {
-  std::vector<cdm::Net*> nets;
-  std::unordered_set<const cdm::Net*> seen;
-  cdm::AllPinIterator pins(design, deep, cdm::func<cdm::Pin>);
-  while (pins.HasNext()) {
-    cdm::Net* net = pins.Next()->GetNet();
-    if (net && !IsTieNet(net) && seen.insert(net).second) nets.push_back(net);
-  }
-  return deep ? ByNetlist(nets, NetNetlist) : nets;
 }
 
 bool Invalid(const NameMatcher& matcher, std::string& error) {
@@ -107,13 +94,32 @@ bool FindCells(const cdm::Design* design, const std::string& pattern, const Find
 
 bool FindNets(const cdm::Design* design, const std::string& pattern, const FindOptions& options,
               std::vector<ObjectRef>& found, std::string& error) {
-  return FindByPattern<cdm::Net>(
-      design, pattern, options, ObjectKind::kNet, WalkNets,
-      [](const std::string& name) {
-        cdm::Net* net = cdm::DbManager::FindNet(name);
-        return net && !IsTieNet(net) ? net : nullptr;
-      },
-      found, error);
+  if (!design) return true;
+  const bool by_path = !options.hierarchical && pattern.find('/') != std::string::npos;
+  NameMatcher matcher(pattern, options, by_path);
+  if (Invalid(matcher, error)) return false;
+  if (matcher.IsLiteral() && !options.hierarchical) {
+    cdm::Net* net = cdm::DbManager::FindNet(pattern);
+    if (net && !IsTieNet(net)) found.push_back({ObjectKind::kNet, net});
+    return true;
+  }
+  // Every name a net goes by, also the names an assign merged into it; a
+  // net is listed once, under the first of its names that matches.
+  std::unordered_set<const cdm::Net*> seen;
+  std::string full;
+  cdm::ForEachNetName(design, options.hierarchical || by_path,
+                      [&](cdm::Net* net, std::string_view path, std::string_view name) {
+                        if (seen.count(net)) return;
+                        if (by_path) {
+                          full.assign(path);
+                          full += name;
+                        }
+                        if (matcher.Matches(by_path ? std::string_view(full) : name)) {
+                          seen.insert(net);
+                          found.push_back({ObjectKind::kNet, net});
+                        }
+                      });
+  return true;
 }
 
 bool FindPins(const cdm::Design* design, const std::string& pattern, const FindOptions& options,

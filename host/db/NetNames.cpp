@@ -1,0 +1,34 @@
+#include "db/NetNames.h"
+
+#include "db/Elaboration.h"
+#include "db/Netlist.h"
+#include "hostapi/cdm/Design.h"
+#include "hostapi/cdm/Net.h"
+
+#include <string>
+
+namespace cdm {
+namespace {
+
+void VisitNetlist(const Netlist* netlist, const NetNameVisitor& visit) {
+  const std::string path = netlist->PathPrefix();
+  for (uint32_t i = 0; i < netlist->NamedNetCount(); ++i)
+    visit(&netlist->Nets()[i], path, netlist->NetName(i));
+  const NamePool& names = netlist->Names();
+  for (const auto& alias : netlist->Aliases())
+    visit(&netlist->Nets()[alias.second], path, names.View(alias.first));
+}
+
+}  // namespace
+
+void ForEachNetName(const Design* design, bool deep, const NetNameVisitor& visit) {
+  if (!design) return;
+  const Netlist* top = design->GetNetlist();
+  VisitNetlist(top, visit);
+  if (!deep) return;
+  const Elaboration* elaboration = top->GetElaboration();
+  if (!elaboration || elaboration->Top() != design) return;
+  for (const auto& instance : elaboration->Instances()) VisitNetlist(instance.get(), visit);
+}
+
+}  // namespace cdm
