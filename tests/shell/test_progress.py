@@ -14,7 +14,8 @@ class Progress(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.dir = tempfile.mkdtemp(prefix="kelvo_progress_")
-        write_large_netlist(os.path.join(cls.dir, "big.v"))
+        # Large enough that reading outlasts the first draw on a fast machine.
+        write_large_netlist(os.path.join(cls.dir, "big.v"), cells=1200000)
         with open(os.path.join(cls.dir, "small.v"), "w") as small:
             small.write("module small (a);\n  input a;\nendmodule\n")
 
