@@ -43,7 +43,10 @@ class DelayCalcInputs {
     return false;
   }
   // Wire capacitance (F) and resistance (ohm) of the net `driver` drives.
-  virtual void WireParasitics(const cdm::Pin* driver, int mm, float& cap, float& res) const;
+  // `whole` says that `cap` is the net's whole capacitance, pins included
+  // (set_load -subtract_pin_load on the net).
+  virtual void WireParasitics(const cdm::Pin* driver, int mm, float& cap, float& res,
+                              bool& whole) const;
   // An edge that constants or set_disable_timing turn off.
   virtual bool EdgeDisabled(uint32_t /*edge*/) const { return false; }
 };

@@ -116,7 +116,8 @@ void GraphDelayCalc::DriverLoad(const TimingGraph& graph, uint32_t v) {
   for (int mm = 0; mm < 2; ++mm) {
     float wire_cap = 0.0f;
     float wire_res = 0.0f;
-    inputs_->WireParasitics(pin, mm, wire_cap, wire_res);
+    bool whole = false;
+    inputs_->WireParasitics(pin, mm, wire_cap, wire_res, whole);
     for (int rf = 0; rf < 2; ++rf) {
       NetLoad& load = loads_[slot * 4 + Slot(rf, mm)];
       load.wire_cap = wire_cap;
@@ -133,6 +134,7 @@ void GraphDelayCalc::DriverLoad(const TimingGraph& graph, uint32_t v) {
           load.pin_cap += std::max(0.0f, load_pin->Capacitance(EdgeOf(rf), MinOrMax(mm)));
         }
       }
+      if (whole) load.wire_cap = std::max(0.0f, wire_cap - load.pin_cap);
     }
   }
 }

@@ -80,14 +80,30 @@ bool Timer::Update(bool full) {
   timed_valid_ = false;
   cdm::Design* design = Design();
   sensitization_.Run(*graph, store, design);
-  static const std::vector<sdc::Clock*> kNoClocks;
-  clock_network_.Build(*graph, store ? store->Clocks() : kNoClocks, sensitization_);
+  clocks_.clear();
+  if (store) clocks_ = store->Clocks();
+  clock_network_.Build(*graph, clocks_, sensitization_);
   const TimingInputs inputs(store, clock_network_, sensitization_);
   delay_calc_.Run(*graph, *calculator_, inputs, root_->GetDefaultLiberty());
+  cycles_.Reset(clocks_);
+  search_.Run(Context(), nullptr);
   timed_ = stamp;
   timed_valid_ = true;
   ++update_count_;
   return true;
+}
+
+SearchContext Timer::Context() {
+  SearchContext context;
+  context.graph = graph_.get();
+  context.delays = &delay_calc_;
+  context.constants = &sensitization_;
+  context.clock_network = &clock_network_;
+  context.store = Store();
+  context.design = Design();
+  context.clocks = &clocks_;
+  context.cycles = &cycles_;
+  return context;
 }
 
 }  // namespace sta

@@ -12,7 +12,9 @@
 #include "dcalc/GraphDelayCalc.h"
 #include "graph/TimingGraph.h"
 #include "search/ClockNetwork.h"
+#include "search/CycleAccounting.h"
 #include "search/Sensitization.h"
+#include "search/TimingSearch.h"
 
 namespace cdm {
 class Design;
@@ -57,6 +59,14 @@ class Timer {
   const ArcDelayCalc& Calculator() const { return *calculator_; }
   const Sensitization& Constants() const { return sensitization_; }
   const ClockNetwork& Clocks() const { return clock_network_; }
+  // The clocks of the last update, in the store's order: their numbers are
+  // those of tags and clock edges.
+  const std::vector<sdc::Clock*>& ClockList() const { return clocks_; }
+  CycleAccounting& Cycles() { return cycles_; }
+  // The search of the last update.
+  TimingSearch& Search() { return search_; }
+  // What a search over the timed graph starts from (exceptions unset).
+  SearchContext Context();
 
  private:
   // What a result was computed from: the database, the constraints and the
@@ -85,6 +95,9 @@ class Timer {
   Sensitization sensitization_;
   ClockNetwork clock_network_;
   GraphDelayCalc delay_calc_;
+  std::vector<sdc::Clock*> clocks_;
+  CycleAccounting cycles_;
+  TimingSearch search_;
 };
 
 }  // namespace sta

@@ -1,5 +1,6 @@
 #include "search/TimingInputs.h"
 
+#include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Pin.h"
 #include "sdc/SdcStore.h"
 #include "search/ClockNetwork.h"
@@ -57,6 +58,20 @@ bool TimingInputs::IdealClockSlew(uint32_t vertex, int rf, int mm, float& slew) 
 
 bool TimingInputs::EdgeDisabled(uint32_t edge) const {
   return sensitization_.EdgeDisabled(edge);
+}
+
+}  // namespace sta
+
+namespace sta {
+
+void TimingInputs::WireParasitics(const cdm::Pin* driver, int mm, float& cap, float& res,
+                                  bool& whole) const {
+  DelayCalcInputs::WireParasitics(driver, mm, cap, res, whole);
+  const cdm::Net* net = driver->GetNet();
+  const sdc::NetConstraints* record = store_ && net ? store_->FindNet(net) : nullptr;
+  if (!record || !record->wire_cap[mm]) return;
+  cap = *record->wire_cap[mm];
+  whole = record->subtract_pin_load;
 }
 
 }  // namespace sta

@@ -26,6 +26,9 @@ class TimingInputs : public DelayCalcInputs {
   const sdc::DriveCell* DrivingCell(const cdm::Pin* port_pin, int rf, int mm) const override;
   bool IdealClockSlew(uint32_t vertex, int rf, int mm, float& slew) const override;
   bool EdgeDisabled(uint32_t edge) const override;
+  // set_load on the driver's net replaces the wire-load estimate.
+  void WireParasitics(const cdm::Pin* driver, int mm, float& cap, float& res,
+                      bool& whole) const override;
 
  private:
   sdc::SdcStore* store_;
