@@ -53,8 +53,12 @@ void ArrivalSearch::Run(const SearchContext& context) {
   first_.assign(graph.TableSize(), 0);
   count_.assign(graph.TableSize(), 0);
   ideal_.assign(context.clocks->size(), false);
-  for (size_t c = 0; c < context.clocks->size(); ++c)
+  clock_source_.assign(graph.TableSize(), false);
+  for (size_t c = 0; c < context.clocks->size(); ++c) {
     ideal_[c] = !(*context.clocks)[c]->isPropagated();
+    for (uint32_t v : context.clock_network->Sources(static_cast<uint32_t>(c)))
+      clock_source_[v] = true;
+  }
   entries_.reserve(graph.TableSize() + 16);
   Seed();
   const std::vector<uint32_t>& order = graph.LevelOrder();
@@ -149,8 +153,9 @@ void ArrivalSearch::SeedInputDelays() {
           const int slot = rf * 2 + mm;
           float base = 0.0f;
           if (edge >= 0) {
-            seed.latency[slot] = ClockLatency(clock, edge % 2, mm, !delay->getSourceLatencyIncluded(),
-                                              !delay->getNetworkLatencyIncluded());
+            seed.latency[slot] =
+                ClockLatency(clock, edge % 2, mm, !delay->getSourceLatencyIncluded(),
+                             !delay->getNetworkLatencyIncluded());
             base = static_cast<float>(context_.cycles->EdgeTime(edge)) + seed.latency[slot];
           }
           seed.drive_delay[slot] = context_.delays->DriveDelay(v, rf, mm);
@@ -217,13 +222,15 @@ bool ArrivalSearch::Propagate(uint32_t edge_index, uint32_t from_tag, int from_r
 }
 
 float ArrivalSearch::ArcDelay(uint32_t edge, uint32_t tag, int from_rf, int to_rf, int mm) const {
-  // An ideal clock takes no time through its network; a register it
-  // clocks still takes its clock-to-output delay.
-  const Tag& t = tags_.Get(tag);
-  if (t.is_clock && IdealClock(t.Clock()) &&
-      context_.graph->Edges()[edge].role != EdgeRole::kClockToOutput)
-    return 0.0f;
+  (void)tag;
   return context_.delays->ArcDelay(edge, from_rf, to_rf, mm);
+}
+
+float ArrivalSearch::ClockPinArrival(const Arrival& clock, int rf, int mm) const {
+  const Tag& tag = tags_.Get(clock.tag);
+  if (!tag.is_clock || !IdealClock(tag.Clock())) return clock.Get(rf, mm);
+  return static_cast<float>(context_.cycles->EdgeTime(tag.clock_edge)) +
+         ClockLatency(tag.Clock(), tag.clock_edge % 2, mm, true, true);
 }
 
 bool ArrivalSearch::Allowed(uint32_t vertex, int rf) const {
@@ -247,7 +254,9 @@ void ArrivalSearch::VisitVertex(uint32_t w) {
           if (seed.arrival.Has(rf, mm)) Fold(entry, rf, mm, seed.arrival.Get(rf, mm));
     }
   }
-  for (uint32_t i = graph.InBegin(w); i < graph.InEnd(w); ++i) {
+  // A clock defined on a pin replaces what arrives there.
+  const uint32_t fanin_end = clock_source_[w] ? graph.InBegin(w) : graph.InEnd(w);
+  for (uint32_t i = graph.InBegin(w); i < fanin_end; ++i) {
     const uint32_t e = graph.InEdge(i);
     const Edge& edge = graph.Edges()[e];
     if (!Propagates(edge.role) || edge.BreaksLoop() || context_.constants->EdgeDisabled(e))
@@ -262,9 +271,11 @@ void ArrivalSearch::VisitVertex(uint32_t w) {
           uint32_t to_tag = 0;
           if (!Propagate(e, from.tag, from_rf, to_rf, to_tag)) continue;
           Arrival& entry = slot_of(to_tag);
+          const bool launch = edge.role == EdgeRole::kClockToOutput;
           for (int mm = 0; mm < 2; ++mm) {
             if (!from.Has(from_rf, mm)) continue;
-            Fold(entry, to_rf, mm, from.Get(from_rf, mm) + ArcDelay(e, from.tag, from_rf, to_rf, mm));
+            const float at = launch ? ClockPinArrival(from, from_rf, mm) : from.Get(from_rf, mm);
+            Fold(entry, to_rf, mm, at + ArcDelay(e, from.tag, from_rf, to_rf, mm));
           }
         }
       }

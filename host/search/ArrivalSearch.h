@@ -73,6 +73,8 @@ class ArrivalSearch {
   size_t EntryCount() const { return entries_.size(); }
   const SearchContext& Context() const { return context_; }
 
+  // A clock is defined on the vertex: nothing arrives there but the clock.
+  bool IsClockSource(uint32_t vertex) const { return clock_source_[vertex]; }
   // Whether the clock of a clock edge is ideal.
   bool IdealClock(int clock) const { return clock >= 0 && ideal_[clock]; }
 
@@ -84,6 +86,10 @@ class ArrivalSearch {
   float ClockLatency(int clock, int rf, int mm, bool source, bool network) const;
   // The delay an arrival of `tag` takes along an arc of `edge`.
   float ArcDelay(uint32_t edge, uint32_t tag, int from_rf, int to_rf, int mm) const;
+  // The arrival of a clock at a register's clock pin: for an ideal clock its
+  // edge and latency, whatever lies between; for a propagated one the
+  // arrival through its tree.
+  float ClockPinArrival(const Arrival& clock, int rf, int mm) const;
 
  private:
   void Seed();
@@ -96,7 +102,8 @@ class ArrivalSearch {
 
   SearchContext context_;
   TagTable tags_;
-  std::vector<bool> ideal_;  // per clock
+  std::vector<bool> ideal_;         // per clock
+  std::vector<bool> clock_source_;  // per vertex
   std::vector<Arrival> entries_;
   std::vector<uint32_t> first_;
   std::vector<uint16_t> count_;

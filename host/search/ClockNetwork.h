@@ -1,6 +1,7 @@
-// The clock networks: the vertices each clock reaches from its sources
+// The clock networks: the vertices on the way from each clock's sources,
 // through wires and combinational arcs (not through registers, constants or
-// disabled arcs), and whether a clock is ideal there.
+// disabled arcs), to the clock pins of registers; and whether a clock is
+// ideal there. A branch that reaches only data pins is not part of it.
 #pragma once
 
 #include <cstdint>

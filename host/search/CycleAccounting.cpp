@@ -58,6 +58,8 @@ CycleAccounting::Relation CycleAccounting::Compute(int launch_edge, int capture_
   if (launches < 1 || launches > 10000) launches = 10000;
   int64_t best_setup = std::numeric_limits<int64_t>::max();
   int64_t best_hold = std::numeric_limits<int64_t>::min();
+  int64_t setup_launch = 0;
+  int64_t hold_launch = 0;
   for (int64_t i = 0; i < launches; ++i) {
     const int64_t launch = launch_time + i * launch_period;
     // The first capture strictly after the launch.
@@ -65,14 +67,22 @@ CycleAccounting::Relation CycleAccounting::Compute(int launch_edge, int capture_
     int64_t capture = capture_time + k * capture_period;
     while (capture <= launch) capture += capture_period;
     while (capture - capture_period > launch) capture -= capture_period;
-    best_setup = std::min(best_setup, capture - launch);
-    // Hold: the capture before that one against this launch, and that
-    // capture against the next launch.
-    best_hold = std::max(best_hold, capture - capture_period - launch);
-    best_hold = std::max(best_hold, capture - (launch + launch_period));
+    if (capture - launch < best_setup) {
+      best_setup = capture - launch;
+      setup_launch = i * launch_period;
+    }
+    // The last capture at or before the launch.
+    if (capture - capture_period - launch >= best_hold) {  // ties: the later launch
+      best_hold = capture - capture_period - launch;
+      hold_launch = i * launch_period;
+    }
   }
+  // The hold check is shown at a capture edge of time 0 or later.
+  while (launch_time + hold_launch + best_hold < 0) hold_launch += launch_period;
   relation.setup = best_setup * 1e-15;
   relation.hold = best_hold * 1e-15;
+  relation.setup_launch = setup_launch * 1e-15;
+  relation.hold_launch = hold_launch * 1e-15;
   return relation;
 }
 

@@ -1,8 +1,8 @@
-// When a launching clock edge is checked against a capturing one: the
-// setup relation is the shortest time from a launch to the first capture
-// after it, over the clocks' common period; the hold relation is the
-// largest time from a launch to the capture before that one (or from the
-// next launch to that capture). Multicycle paths move both.
+// When a launching clock edge is checked against a capturing one, over the
+// clocks' common period: the setup relation is the shortest time from a
+// launch to the first capture after it; the hold relation is the largest
+// time from a launch to the last capture at or before it (negative or 0).
+// Multicycle paths move both.
 #pragma once
 
 #include <cstdint>
@@ -26,6 +26,10 @@ class CycleAccounting {
   struct Relation {
     double setup = 0.0;  // capture time minus launch time
     double hold = 0.0;
+    // The launch that gives each, as the time from the edge in the first
+    // period (a whole number of launch periods).
+    double setup_launch = 0.0;
+    double hold_launch = 0.0;
   };
   // The relation of a launch and a capture edge, before multicycles.
   const Relation& Find(int launch_edge, int capture_edge);

@@ -31,8 +31,8 @@ PathPoint Compile(const sdc::ExceptionPoint& point, const std::vector<sdc::Clock
                   const cdm::Design* design, Role role) {
   PathPoint result;
   result.present = true;
-  result.edges = static_cast<uint8_t>((point.edges->HasRise() ? 1 : 0) |
-                                      (point.edges->HasFall() ? 2 : 0));
+  result.edges =
+      static_cast<uint8_t>((point.edges->HasRise() ? 1 : 0) | (point.edges->HasFall() ? 2 : 0));
   for (const sdc::SdcObject& object : point.objects) {
     void* target = object.ref.object;
     if (!target) continue;
@@ -83,8 +83,7 @@ int Specificity(const CompiledException& exception) {
     if (!point.present) return 0;
     return point.vertices.empty() ? 1 : 2;
   };
-  return score(exception.from) * 4 + score(exception.to) * 2 +
-         (exception.throughs.empty() ? 0 : 1);
+  return score(exception.from) * 4 + score(exception.to) * 2 + (exception.throughs.empty() ? 0 : 1);
 }
 
 int Rank(Kind kind) {
@@ -278,8 +277,8 @@ bool ExceptionPaths::FilterAllowsStart(uint32_t vertex, uint32_t other, int cloc
 }
 
 uint32_t ExceptionPaths::AdvanceAt(uint32_t states, uint32_t vertex, int rf) {
-  const uint64_t key = (static_cast<uint64_t>(states) << 33) | (static_cast<uint64_t>(vertex) << 1) |
-                       static_cast<uint64_t>(rf);
+  const uint64_t key = (static_cast<uint64_t>(states) << 33) |
+                       (static_cast<uint64_t>(vertex) << 1) | static_cast<uint64_t>(rf);
   auto cached = advance_cache_.find(key);
   if (cached != advance_cache_.end()) return cached->second;
   std::vector<uint32_t> items = sets_[states];
@@ -309,15 +308,14 @@ uint32_t ExceptionPaths::AdvanceAt(uint32_t states, uint32_t vertex, int rf) {
 
 bool ExceptionPaths::Complete(uint32_t states, int index) const {
   const CompiledException& exception = exceptions_[index];
-  const uint32_t want = static_cast<uint32_t>(index) << 8 |
-                        static_cast<uint32_t>(exception.throughs.size());
+  const uint32_t want =
+      static_cast<uint32_t>(index) << 8 | static_cast<uint32_t>(exception.throughs.size());
   const std::vector<uint32_t>& items = sets_[states];
   return std::binary_search(items.begin(), items.end(), want);
 }
 
-bool ExceptionPaths::Matches(const CompiledException& exception, uint32_t states,
-                             int launch_clock, uint32_t end_vertex, int end_rf,
-                             int capture_clock) const {
+bool ExceptionPaths::Matches(const CompiledException& exception, uint32_t states, int launch_clock,
+                             uint32_t end_vertex, int end_rf, int capture_clock) const {
   if (exception.tracked) {
     if (!Complete(states, exception.order)) return false;
   } else if (exception.from.present) {
@@ -341,8 +339,7 @@ const CompiledException* ExceptionPaths::Applying(uint32_t states, int launch_cl
     if (setup ? !exception.setup : !exception.hold) continue;
     if (!Matches(exception, states, launch_clock, end_vertex, end_rf, capture_clock)) continue;
     if (!best || Rank(exception.kind) > Rank(best->kind) ||
-        (Rank(exception.kind) == Rank(best->kind) &&
-         exception.specificity >= best->specificity)) {
+        (Rank(exception.kind) == Rank(best->kind) && exception.specificity >= best->specificity)) {
       best = &exception;
     }
   }

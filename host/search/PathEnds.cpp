@@ -37,8 +37,7 @@ bool IsAsync(const Edge& edge) {
 }
 
 bool IsPathDelay(const CompiledException* exception) {
-  return exception &&
-         (exception->kind == Kind::kMaxDelay || exception->kind == Kind::kMinDelay);
+  return exception && (exception->kind == Kind::kMaxDelay || exception->kind == Kind::kMinDelay);
 }
 
 // A multicycle with neither -setup nor -hold (or both) moves the setup
@@ -109,7 +108,7 @@ void PathEnds::VisitEnd(uint32_t w) {
   }
 }
 
-bool PathEnds::Relate(const PathEnd& end, const Tag& data_tag, double& capture_time,
+bool PathEnds::Relate(PathEnd& end, const Tag& data_tag, double& capture_time,
                       const CompiledException*& exception) {
   const SearchContext& context = search_->Context();
   CycleAccounting& cycles = *context.cycles;
@@ -118,8 +117,8 @@ bool PathEnds::Relate(const PathEnd& end, const Tag& data_tag, double& capture_t
   const int capture = end.capture_edge;
   const int launch_clock = launch < 0 ? -1 : launch / 2;
   const int capture_clock = capture < 0 ? -1 : capture / 2;
-  exception = exceptions.Applying(data_tag.states, launch_clock, end.vertex, end.rf,
-                                  capture_clock, end.setup);
+  exception = exceptions.Applying(data_tag.states, launch_clock, end.vertex, end.rf, capture_clock,
+                                  end.setup);
   if (exception && exception->kind == Kind::kFalsePath) return false;
   if (IsPathDelay(exception)) {
     capture_time = (launch < 0 ? 0.0 : cycles.EdgeTime(launch)) + exception->value;
@@ -127,7 +126,9 @@ bool PathEnds::Relate(const PathEnd& end, const Tag& data_tag, double& capture_t
   }
   if (launch < 0 || capture < 0) return false;
   const CycleAccounting::Relation& relation = cycles.Find(launch, capture);
-  const double launch_time = cycles.EdgeTime(launch);
+  end.launch_shift = static_cast<float>(end.setup ? relation.setup_launch : relation.hold_launch);
+  end.arrival += end.launch_shift;
+  const double launch_time = cycles.EdgeTime(launch) + end.launch_shift;
   if (end.setup) {
     capture_time = launch_time + relation.setup;
     if (!MulticycleCovers(exception, true)) {
@@ -141,11 +142,10 @@ bool PathEnds::Relate(const PathEnd& end, const Tag& data_tag, double& capture_t
   capture_time = launch_time + relation.hold;
   // The hold check moves with the setup check's multicycle, then back by
   // the hold multicycle (counted in launch periods unless -end).
-  const CompiledException* setup_multicycle = exceptions.Applying(
-      data_tag.states, launch_clock, end.vertex, end.rf, capture_clock, true);
+  const CompiledException* setup_multicycle =
+      exceptions.Applying(data_tag.states, launch_clock, end.vertex, end.rf, capture_clock, true);
   if (MulticycleCovers(setup_multicycle, true)) {
-    const double period =
-        setup_multicycle->start ? cycles.Period(launch) : cycles.Period(capture);
+    const double period = setup_multicycle->start ? cycles.Period(launch) : cycles.Period(capture);
     capture_time += (setup_multicycle->value - 1.0) * period;
   } else {
     setup_multicycle = nullptr;
@@ -172,10 +172,10 @@ float PathEnds::Uncertainty(int launch_edge, int capture_edge, bool setup,
       const sdc::Clock* launch = clocks[launch_edge / 2];
       for (const sdc::InterClockUncertainty& between : context.store->InterClockUncertainties()) {
         if (between.from != launch || between.to != capture || !between.value[side]) continue;
-        const bool from_edge = launch_edge % 2 == 0 ? between.from_edges->HasRise()
-                                                    : between.from_edges->HasFall();
-        const bool to_edge = capture_edge % 2 == 0 ? between.to_edges->HasRise()
-                                                   : between.to_edges->HasFall();
+        const bool from_edge =
+            launch_edge % 2 == 0 ? between.from_edges->HasRise() : between.from_edges->HasFall();
+        const bool to_edge =
+            capture_edge % 2 == 0 ? between.to_edges->HasRise() : between.to_edges->HasFall();
         if (from_edge && to_edge) return *between.value[side];
       }
     }
@@ -193,8 +193,8 @@ uint32_t PathEnds::GroupOf(const PathEnd& end, const Tag& data_tag,
   const int capture_clock = end.capture_edge < 0 ? -1 : end.capture_edge / 2;
   const std::string* named = search_->Context().exceptions->Group(
       data_tag.states, launch_clock, end.vertex, end.rf, capture_clock);
-  const std::string name = named ? (named->empty() ? std::string(kDefaultGroup) : *named)
-                                 : clock_group;
+  const std::string name =
+      named ? (named->empty() ? std::string(kDefaultGroup) : *named) : clock_group;
   auto found = group_index_.find(name);
   if (found != group_index_.end()) return found->second;
   const uint32_t index = static_cast<uint32_t>(groups_.size());
@@ -247,18 +247,18 @@ void PathEnds::CheckEnds(uint32_t w, const Arrival& data, int rf, bool setup) {
         end.capture_edge = clock_tag.clock_edge;
         end.arrival = data.Get(rf, mm);
         end.margin = context.delays->ArcDelay(e, clock_rf, rf, mm);
-        end.clock_latency = clock.Get(clock_rf, clock_mm) -
+        end.clock_latency = search_->ClockPinArrival(clock, clock_rf, clock_mm) -
                             static_cast<float>(context.cycles->EdgeTime(end.capture_edge));
         double capture_time = 0.0;
         if (!Relate(end, data_tag, capture_time, end.exception)) continue;
         end.capture_time = static_cast<float>(capture_time);
         if (IsPathDelay(end.exception) && end.exception->ignore_clock_latency)
           end.clock_latency = 0.0f;
-        end.uncertainty = Uncertainty(end.launch_edge, end.capture_edge, setup,
-                                      graph.vertex(edge.from)->pin());
+        end.uncertainty =
+            Uncertainty(end.launch_edge, end.capture_edge, setup, graph.vertex(edge.from)->pin());
         const float base = end.capture_time + end.clock_latency;
-        end.required = setup ? base - end.uncertainty - end.margin
-                             : base + end.uncertainty + end.margin;
+        end.required =
+            setup ? base - end.uncertainty - end.margin : base + end.uncertainty + end.margin;
         const std::string clock_name = (*context.clocks)[end.capture_edge / 2]->Name();
         end.group = GroupOf(end, data_tag, end.async ? kAsyncGroup : clock_name);
         Finish(end);

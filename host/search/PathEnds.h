@@ -40,6 +40,10 @@ struct PathEnd {
   int launch_edge = -1;                          // clock edges, -1 none
   int capture_edge = -1;
   uint32_t group = 0;
+  // The launch is shown in the period whose capture is checked: arrival and
+  // required times are those of that launch, `launch_shift` (whole launch
+  // periods) after the launch edge of the first period.
+  float launch_shift = 0.0f;
   float arrival = 0.0f;
   float required = 0.0f;
   float slack = 0.0f;
@@ -68,7 +72,7 @@ class PathEnds {
   void OutputDelayEnds(uint32_t vertex, const Arrival& data, int rf, bool setup);
   void PathDelayEnd(uint32_t vertex, const Arrival& data, int rf, bool setup);
   // The relation of launch and capture with the multicycles in force.
-  bool Relate(const PathEnd& end, const Tag& data_tag, double& capture_time,
+  bool Relate(PathEnd& end, const Tag& data_tag, double& capture_time,
               const CompiledException*& exception);
   float Uncertainty(int launch_edge, int capture_edge, bool setup, const cdm::Pin* clock_pin);
   uint32_t GroupOf(const PathEnd& end, const Tag& data_tag, const std::string& clock_group);

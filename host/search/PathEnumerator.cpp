@@ -16,9 +16,9 @@ struct Node {
   uint8_t rf = 0;
   uint32_t vertex = 0;
   uint32_t tag = 0;
-  float suffix = 0.0f;  // delay from this vertex to the end
-  float key = 0.0f;     // the arrival at the end of the best completion
-  int parent = -1;      // the node nearer the end
+  float suffix = 0.0f;                 // delay from this vertex to the end
+  float key = 0.0f;                    // the arrival at the end of the best completion
+  int parent = -1;                     // the node nearer the end
   uint32_t edge = PathStage::kNoEdge;  // from this vertex to the parent's
   float edge_delay = 0.0f;
   float head = 0.0f;  // complete nodes: the arrival at the start
@@ -66,6 +66,10 @@ TimingPath Build(const std::vector<Node>& nodes, int complete, const PathEnd& en
     path.stages.push_back(stage);
     at = node.parent;
   }
+  if (end.launch_shift != 0.0f) {
+    path.clock_arrival += end.launch_shift;
+    for (PathStage& stage : path.stages) stage.arrival += end.launch_shift;
+  }
   path.arrival = path.stages.back().arrival;
   path.slack = end.setup ? end.required - path.arrival : path.arrival - end.required;
   return path;
@@ -88,7 +92,7 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
   first.vertex = end.vertex;
   first.tag = end.tag;
   first.rf = end.rf;
-  first.key = end.arrival;
+  first.key = end.arrival - end.launch_shift;
   nodes.push_back(first);
   queue.push(0);
   size_t pops = 0;
@@ -118,7 +122,8 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
       }
     }
     const uint32_t w = node.vertex;
-    for (uint32_t i = graph.InBegin(w); i < graph.InEnd(w); ++i) {
+    const uint32_t fanin_end = search.IsClockSource(w) ? graph.InBegin(w) : graph.InEnd(w);
+    for (uint32_t i = graph.InBegin(w); i < fanin_end; ++i) {
       const uint32_t e = graph.InEdge(i);
       const Edge& edge = graph.Edges()[e];
       if (!Propagates(edge.role) || edge.BreaksLoop() ||
@@ -133,8 +138,8 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
             continue;
           const float delay = search.ArcDelay(e, entry.tag, from_rf, node.rf, mm);
           Node child;
-          child.kind = edge.role == EdgeRole::kClockToOutput ? Node::Kind::kRegister
-                                                             : Node::Kind::kPartial;
+          child.kind =
+              edge.role == EdgeRole::kClockToOutput ? Node::Kind::kRegister : Node::Kind::kPartial;
           child.parent = index;
           child.vertex = edge.from;
           child.tag = entry.tag;
@@ -142,7 +147,9 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
           child.edge = e;
           child.edge_delay = delay;
           child.suffix = node.suffix + delay;
-          child.head = entry.Get(from_rf, mm);
+          child.head = child.kind == Node::Kind::kRegister
+                           ? search.ClockPinArrival(entry, from_rf, mm)
+                           : entry.Get(from_rf, mm);
           child.key = child.head + child.suffix;
           push(child);
         }

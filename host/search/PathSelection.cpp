@@ -35,9 +35,8 @@ std::vector<TimingPath> SelectPaths(TimingSearch& search, const PathSelection& s
   for (const PathEnd& end : all.Ends()) {
     if (end.setup != selection.setup) continue;
     const std::string& group = all.Groups()[end.group];
-    if (!selection.groups.empty() &&
-        std::find(selection.groups.begin(), selection.groups.end(), group) ==
-            selection.groups.end())
+    if (!selection.groups.empty() && std::find(selection.groups.begin(), selection.groups.end(),
+                                               group) == selection.groups.end())
       continue;
     by_group[group].push_back(&end);
   }

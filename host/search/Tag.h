@@ -13,8 +13,7 @@ struct Tag {
   uint32_t states = 0;      // a set of exception states (ExceptionPaths); 0 the empty set
 
   bool operator==(const Tag& other) const {
-    return clock_edge == other.clock_edge && is_clock == other.is_clock &&
-           states == other.states;
+    return clock_edge == other.clock_edge && is_clock == other.is_clock && states == other.states;
   }
   int Clock() const { return clock_edge < 0 ? -1 : clock_edge / 2; }
 };

@@ -100,11 +100,11 @@ std::string PathReport::Endpoint(const PathEnd& end) const {
     const Edge& check = graph.Edges()[end.edge];
     const bool falling = check.arc_set && ClockEdgeOf(*check.arc_set) == 1;
     const cdm::Cell* cell = pin->GetCell();
-    const std::string what = end.async ? (end.setup ? "recovery check" : "removal check")
-                                       : "flip-flop";
+    const std::string what =
+        end.async ? (end.setup ? "recovery check" : "removal check") : "flip-flop";
     return (cell ? cell->GetFullName() : pin->GetFullName()) + " (" +
-           (falling ? "falling" : "rising") + " edge-triggered " + what + " clocked by " +
-           clock + ")";
+           (falling ? "falling" : "rising") + " edge-triggered " + what + " clocked by " + clock +
+           ")";
   }
   const std::string kind = pin->IsTopPortPin() ? "output port" : "internal pin";
   if (end.kind == PathEnd::Kind::kPathDelay || clock.empty())
@@ -169,7 +169,7 @@ void PathReport::LaunchRows(const TimingPath& path) {
   const int slot = first.rf * 2 + mm;
   const Tag& tag = search_.Tags().Get(first.tag);
   const int edge = tag.clock_edge;
-  const double edge_time = edge >= 0 ? timer_.Cycles().EdgeTime(edge) : 0.0;
+  const double edge_time = edge >= 0 ? timer_.Cycles().EdgeTime(edge) + end.launch_shift : 0.0;
   if (path.from_register) {
     Value(ClockLine(edge), edge_time, edge_time);
     Value(NetworkLine(edge / 2), path.clock_arrival - edge_time, path.clock_arrival);
@@ -199,9 +199,8 @@ void PathReport::CaptureRows(const TimingPath& path) {
   const PathEnd& end = *path.end;
   const bool setup = end.setup;
   using Kind = CompiledException::Kind;
-  const bool path_delay =
-      end.exception &&
-      (end.exception->kind == Kind::kMaxDelay || end.exception->kind == Kind::kMinDelay);
+  const bool path_delay = end.exception && (end.exception->kind == Kind::kMaxDelay ||
+                                            end.exception->kind == Kind::kMinDelay);
   double at = end.capture_time;
   if (path_delay) {
     Value(setup ? "max_delay" : "min_delay", end.capture_time, at);

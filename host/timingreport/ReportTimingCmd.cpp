@@ -92,8 +92,9 @@ class ReportTimingCmd : public CommonCmd {
     addOptions("help", "Display help info", false, ValueType::kFlag, std::any());
     addOptions("from", "Paths from these pins, ports, cells or clocks", false,
                ValueType::kStringList, std::any());
-    addOptions("through", "Paths through these pins, ports, nets or cells (in order when given "
-                          "several times)",
+    addOptions("through",
+               "Paths through these pins, ports, nets or cells (in order when given "
+               "several times)",
                false, ValueType::kStringList, std::any());
     addOptions("to", "Paths to these pins, ports, cells or clocks", false, ValueType::kStringList,
                std::any());
@@ -101,14 +102,13 @@ class ReportTimingCmd : public CommonCmd {
                std::any());
     addOptions("max_paths", "Paths per path group (default 1)", false, ValueType::kInteger,
                std::any());
-    addOptions("nworst", "Paths per endpoint (default 1)", false, ValueType::kInteger,
-               std::any());
+    addOptions("nworst", "Paths per endpoint (default 1)", false, ValueType::kInteger, std::any());
     addOptions("path_type", "full (the default), summary or end", false, ValueType::kString,
                std::any());
     addOptions("input_pins", "Show the input pins of cells", false, ValueType::kFlag, std::any());
     addOptions("nets", "Show the nets", false, ValueType::kFlag, std::any());
-    addOptions("transition_time", "Show the transition time at each pin", false,
-               ValueType::kFlag, std::any());
+    addOptions("transition_time", "Show the transition time at each pin", false, ValueType::kFlag,
+               std::any());
     addOptions("capacitance", "Show the load of each driving pin", false, ValueType::kFlag,
                std::any());
     addOptions("significant_digits", "Digits after the decimal point (0 to 13; default 2)", false,
@@ -200,7 +200,8 @@ int ReportTimingCmd::exec() {
     filter.from = &from;
   }
   for (size_t i = 0; i < throughs.size(); ++i) {
-    if (!Point("through", {ObjectKind::kPin, ObjectKind::kPort, ObjectKind::kNet, ObjectKind::kCell},
+    if (!Point("through",
+               {ObjectKind::kPin, ObjectKind::kPort, ObjectKind::kNet, ObjectKind::kCell},
                static_cast<int>(i), throughs[i]))
       return 1;
     filter.throughs.push_back(&throughs[i]);
