@@ -12,7 +12,7 @@
 namespace {
 
 TEST(TimerMgrTest, WithoutADesignThereIsATimerButNoGraph) {
-  ASSERT_EQ(cdm::DbManager::GetCurrentDesign(), nullptr);
+  cdm::DbManager::GetRoot()->SetCurrentDesign(nullptr);
   TimerMgr* manager = TimerMgr::getInstance();
   ASSERT_NE(manager, nullptr);
   EXPECT_EQ(manager, TimerMgr::getInstance());
