@@ -75,6 +75,23 @@ TEST(ReportPrint, GroupNameWiderThanItsColumns) {
                             Dashes(29) + "\nx    -    -" + Blanks(13) + "-\n" + Dashes(29) + "\n");
 }
 
+TEST(ReportPrint, WideningRemainderGoesToTheLastColumnOfTheGroup) {
+  CaptureResult out;
+  report::ReportPrint table;
+  table.AddItem({"K"}, 0, "");
+  table.AddItem({"c", "d", "e"}, -1, "Group of sixteen");
+  table.AddItem({"z"}, -1, "");
+  table.InsertValue(0, "k", 0);
+  table.PrintTable(0, true);
+  // Span 5 + 5 + 5 + 1 - 5 = 11, 5 short over two gaps: the quotient 2 to
+  // c, d and e, the remainder 1 to e alone (c 7, d 7, e 8); the rule grows
+  // by the 5: 20 + 5 + 5 for z.
+  EXPECT_EQ(out.Take(), "\n" + Blanks(5) + "Group of sixteen\nK    c" + Blanks(6) + "d" +
+                            Blanks(6) + "e" + Blanks(7) + "z\n" + Dashes(30) + "\nk    -" +
+                            Blanks(6) + "-" + Blanks(6) + "-" + Blanks(7) + "-\n" + Dashes(30) +
+                            "\n");
+}
+
 TEST(ReportPrint, GroupNamesAreCentredAndSingleColumnGroupsWiden) {
   CaptureResult out;
   report::ReportPrint table;
