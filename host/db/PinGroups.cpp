@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "hostapi/cdm/LibCell.h"
+#include "hostapi/cdm/LibPort.h"
 #include "hostapi/cdm/Port.h"
 
 namespace cdm {
@@ -24,10 +26,15 @@ PinGroups::PinGroups(const std::vector<Port*>& ports) {
   }
   for (auto& entry : index_) {
     Group& group = entry.second;
-    // Library buses list their bits in any order: most significant first.
-    if (group.members.size() > 1 && !ports[group.members[0].second]->GetDesign())
-      std::stable_sort(group.members.begin(), group.members.end(),
-                       [](const auto& a, const auto& b) { return a.first > b.first; });
+    if (group.members.size() < 2 || ports[group.members[0].second]->GetDesign()) continue;
+    // A library bus lists its bits as its type declares them, the most
+    // significant (`bit_from`) first. Bits a library writes as pins of their
+    // own come in any order: the highest number is the most significant.
+    const auto* bit = dynamic_cast<const LibPort*>(ports[group.members[0].second]);
+    const LibPort* bus = bit ? bit->GetLibCell()->FindPort(std::string(entry.first)) : nullptr;
+    if (bus && bus->IsBus()) continue;
+    std::stable_sort(group.members.begin(), group.members.end(),
+                     [](const auto& a, const auto& b) { return a.first > b.first; });
   }
 }
 

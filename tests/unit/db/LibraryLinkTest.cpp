@@ -135,6 +135,76 @@ TEST_F(LibraryLinkTest, InoutPinsDriveAndLoad) {
   EXPECT_EQ(drivers[0], io_pad);
 }
 
+// A vector connection meets a library bus most significant bit first: a bus
+// type's `bit_from` is its most significant bit, whether it counts down (as
+// fakeram45's addr_in[5:0]) or up; bits written as pins of their own are
+// ordered by number, highest first.
+TEST(BusLink, VectorConnectionsMeetLibraryBusesMostSignificantBitFirst) {
+  cdm::Root root;
+  std::string error;
+  auto lib = liberty::ParseLiberty(&root, R"(
+library (buses) {
+  capacitive_load_unit (1, pf) ;
+  type (down3) { base_type : array ; data_type : bit ; bit_width : 3 ; bit_from : 2 ; bit_to : 0 ; downto : true ; }
+  type (up3) { base_type : array ; data_type : bit ; bit_width : 3 ; bit_from : 0 ; bit_to : 2 ; downto : false ; }
+  cell (BUSES) {
+    area : 1 ;
+    bus (D) { bus_type : down3 ; direction : input ; }
+    bus (U) { bus_type : up3 ; direction : input ; }
+    pin (P[0]) { direction : input ; }
+    pin (P[2]) { direction : input ; }
+    pin (P[1]) { direction : input ; }
+  }
+}
+)",
+                                   "buses.lib", error);
+  ASSERT_NE(lib, nullptr) << error;
+  root.AddLibertyLib(std::move(lib));
+  std::vector<std::string> modules, warnings;
+  ASSERT_TRUE(verilog::ReadVerilogText(&root, R"(
+module bus_top (d, u, p);
+  input [2:0] d; input [2:0] u; input [2:0] p;
+  BUSES b (.D(d), .U(u), .P(p));
+endmodule)",
+                                       "bus.v", modules, error))
+      << error;
+  cdm::Design* top = root.FindDesign("bus_top");
+  ASSERT_TRUE(cdm::LinkDesign(&root, top, warnings, error)) << error;
+  EXPECT_TRUE(warnings.empty());
+  cdm::Cell* b = top->FindCell("b");
+  auto net_of = [&](const char* pin) { return b->FindPin(pin)->GetNet()->GetFullName(); };
+  EXPECT_EQ(net_of("D[2]"), "d[2]");
+  EXPECT_EQ(net_of("D[0]"), "d[0]");
+  EXPECT_EQ(net_of("U[0]"), "u[2]");
+  EXPECT_EQ(net_of("U[1]"), "u[1]");
+  EXPECT_EQ(net_of("U[2]"), "u[0]");
+  EXPECT_EQ(net_of("P[2]"), "p[2]");
+  EXPECT_EQ(net_of("P[0]"), "p[0]");
+}
+
+// The real memory: addr_in[5:0] bit for bit.
+TEST(BusLink, Fakeram45AddressBitsMeetTheirNets) {
+  cdm::Root root;
+  std::string error;
+  ASSERT_NE(liberty::ReadLibertyFile(&root, KELVO_TEST_DATA "/fakeram45_64x32.lib", error), nullptr)
+      << error;
+  std::vector<std::string> modules, warnings;
+  ASSERT_TRUE(verilog::ReadVerilogText(&root, R"(
+module ram_top (a);
+  input [5:0] a;
+  fakeram45_64x32 r (.addr_in(a));
+endmodule)",
+                                       "ram.v", modules, error))
+      << error;
+  cdm::Design* top = root.FindDesign("ram_top");
+  ASSERT_TRUE(cdm::LinkDesign(&root, top, warnings, error)) << error;
+  cdm::Cell* r = top->FindCell("r");
+  for (int bit = 0; bit < 6; ++bit) {
+    const std::string pin = "addr_in[" + std::to_string(bit) + "]";
+    EXPECT_EQ(r->FindPin(pin)->GetNet()->GetFullName(), "a[" + std::to_string(bit) + "]");
+  }
+}
+
 // Generic gates left from before mapping resolve to the generic library.
 TEST(GenericLink, UnmappedGenericCellsAreGtechCells) {
   cdm::Root* root = cdm::DbManager::GetRoot();
