@@ -1,5 +1,6 @@
 // Link against a small hand-written library: resolution order, relinking
-// after a library arrives, inout pins and wire-load estimates.
+// after a library arrives, inout pins, library buses and wire-load
+// estimates.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -246,13 +247,16 @@ TEST(WireLoadEstimate, FollowsTheDefaultWireLoadByFanout) {
   root->SetDefaultLiberty(root->AddLibertyLib(std::move(lib)));
   std::vector<std::string> modules, warnings;
   ASSERT_TRUE(verilog::ReadVerilogText(root, R"(
-module wl_top (a, y);
-  input a; output y;
-  wire n;
+module wl_top (a, c, y);
+  input a, c; output y;
+  wire n, p;
   TBUF b0 (.A(a), .Y(n));
   TBUF b1 (.A(n), .Y(y));
   TBUF b2 (.A(n));
   TBUF b3 (.A(n));
+  IOBUF io0 (.A(c), .PAD(p));
+  IOBUF io1 (.A(c), .PAD(p));
+  TBUF b4 (.A(p));
 endmodule)",
                                        "wl.v", modules, error))
       << error;
@@ -266,8 +270,22 @@ endmodule)",
   top->FindNet("n")->NetCapAndRes(nullptr, cap, res, cdm::MinMax::max_, cdm::kHierNetRC);
   EXPECT_FLOAT_EQ(cap, 7 * 0.5f * 1e-12f);
   EXPECT_FLOAT_EQ(res, 7 * 2.0f * 1e3f);
+  // p: the inout pads drive it as well as load it and are left out of the
+  // fan-out; b4 alone makes it 1.
+  top->FindNet("p")->NetCapAndRes(nullptr, cap, res, cdm::MinMax::max_, cdm::kHierNetRC);
+  EXPECT_FLOAT_EQ(cap, 0.5f * 1e-12f);
   // y has no load inside the design: the output port is its only one.
   top->FindNet("y")->NetCapAndRes(nullptr, cap, res, cdm::MinMax::max_, cdm::kHierNetRC);
+  EXPECT_FLOAT_EQ(cap, 0.5f * 1e-12f);
+  // Once another design is linked, wl_top's nets are walked rather than
+  // read from its elaboration: the counts stay the same.
+  ASSERT_TRUE(verilog::ReadVerilogText(root, "module wl_other (a); input a; endmodule\n",
+                                       "wl_other.v", modules, error))
+      << error;
+  ASSERT_TRUE(cdm::LinkDesign(root, root->FindDesign("wl_other"), warnings, error)) << error;
+  top->FindNet("n")->NetCapAndRes(nullptr, cap, res, cdm::MinMax::max_, cdm::kHierNetRC);
+  EXPECT_FLOAT_EQ(cap, 7 * 0.5f * 1e-12f);
+  top->FindNet("p")->NetCapAndRes(nullptr, cap, res, cdm::MinMax::max_, cdm::kHierNetRC);
   EXPECT_FLOAT_EQ(cap, 0.5f * 1e-12f);
 }
 
