@@ -1,10 +1,9 @@
 // Reads Liberty libraries and prints the speed (MB of uncompressed text per
 // second) and the peak memory. Arguments: library files; with none, the
-// libraries of ../shared/data/lib. A large library made by repeating the
-// cells of the first file is read last.
+// real libraries the tree carries in tests/data. A large library made by
+// repeating the cells of the largest file is read last.
 #include <sys/resource.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -45,11 +44,22 @@ bool BenchOne(const std::string& path, size_t text_bytes) {
   return true;
 }
 
+// Where the first cell group starts: "cell" first on its line, then "(".
+// A comment's "cell (X)" in the middle of a line is not one.
+size_t FirstCellGroup(const std::string& text) {
+  for (size_t at = text.find("cell"); at != std::string::npos; at = text.find("cell", at + 4)) {
+    size_t line = text.find_last_not_of(" \t", at == 0 ? std::string::npos : at - 1);
+    if (at != 0 && line != std::string::npos && text[line] != '\n') continue;
+    size_t open = text.find_first_not_of(" \t", at + 4);
+    if (open != std::string::npos && text[open] == '(') return at;
+  }
+  return std::string::npos;
+}
+
 // A library of about `target` bytes: the header of `text`, then its cells
 // repeated under new names.
 std::string Enlarge(const std::string& text, size_t target) {
-  const size_t first_cell =
-      text.find("cell (") != std::string::npos ? text.find("cell (") : text.find("cell(");
+  const size_t first_cell = FirstCellGroup(text);
   const size_t end = text.rfind('}');
   if (first_cell == std::string::npos || end == std::string::npos || end < first_cell)
     return std::string();
@@ -89,11 +99,9 @@ int main(int argc, char** argv) {
   std::vector<std::string> files;
   for (int i = 1; i < argc; ++i) files.push_back(argv[i]);
   if (files.empty()) {
-    const std::filesystem::path dir = "../shared/data/lib";
-    std::error_code ec;
-    for (const auto& entry : std::filesystem::directory_iterator(dir, ec))
-      files.push_back(entry.path().string());
-    std::sort(files.begin(), files.end());
+    for (const char* name : {"asap7_small.lib.gz", "fakeram45_64x32.lib", "liberty_latch3.lib",
+                             "nangate45_typ.lib.gz", "sky130hd_tt.lib.gz", "yosys_cells.lib"})
+      files.push_back(std::string(KELVO_TEST_DATA) + "/" + name);
   }
   if (files.empty()) {
     std::fprintf(stderr, "usage: %s LIBERTY_FILE...\n", argv[0]);
