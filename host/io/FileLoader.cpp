@@ -61,8 +61,9 @@ bool IsGzip(const char* data, size_t size) {
 // caller sees when the limit is passed. A regular file of `expected` bytes
 // that yields fewer is an error. With `stop_at_nul`, plain text stops at the
 // chunk that holds a NUL byte, so that /dev/zero ends at once.
-bool ReadRaw(int fd, bool regular, uint64_t expected, uint64_t limit, bool stop_at_nul,
-             std::string& raw, std::string& what) {
+template <class Buffer>
+bool ReadRaw(int fd, bool regular, uint64_t expected, uint64_t limit, bool stop_at_nul, Buffer& raw,
+             std::string& what) {
   size_t used = 0;
   raw.resize(regular ? static_cast<size_t>(expected) + 1 : kReadChunk);
   for (;;) {
@@ -97,7 +98,7 @@ bool ReadRaw(int fd, bool regular, uint64_t expected, uint64_t limit, bool stop_
 
 // A first size for the text of `packed`: the length field of the last
 // member (the size modulo 2^32), when it is believable.
-size_t GuessTextSize(const std::string& packed) {
+size_t GuessTextSize(std::string_view packed) {
   size_t guess = packed.size() * 4;
   if (packed.size() >= 18) {
     const unsigned char* tail =
@@ -113,7 +114,8 @@ size_t GuessTextSize(const std::string& packed) {
 
 // Inflates every gzip member of `packed` into `text`, at most `limit` + 1
 // bytes. With `stop_at_nul` it stops at the first block that holds a NUL.
-bool Gunzip(const std::string& packed, uint64_t limit, bool stop_at_nul, std::string& text,
+template <class Buffer>
+bool Gunzip(std::string_view packed, uint64_t limit, bool stop_at_nul, Buffer& text,
             std::string& what) {
   z_stream stream;
   std::memset(&stream, 0, sizeof stream);
@@ -182,7 +184,7 @@ bool Gunzip(const std::string& packed, uint64_t limit, bool stop_at_nul, std::st
 }
 
 // The line (from 1) of the first NUL byte of `text`, 0 when there is none.
-uint64_t NulLine(const std::string& text) {
+uint64_t NulLine(std::string_view text) {
   const size_t at = text.find('\0');
   if (at == std::string::npos) return 0;
   return 1 + static_cast<uint64_t>(std::count(text.begin(), text.begin() + at, '\n'));
@@ -231,8 +233,11 @@ bool CheckFile(const std::string& path, std::string& error) {
   return true;
 }
 
-bool LoadFile(const std::string& path, std::string& text, std::string& error,
-              const LoadOptions& options) {
+namespace {
+
+// LoadFile for either kind of buffer.
+template <class Buffer>
+bool Load(const std::string& path, Buffer& text, std::string& error, const LoadOptions& options) {
   text.clear();
   uint64_t limit = options.max_bytes;
   if (limit == 0 && !MaxInputBytes(limit, error)) return false;
@@ -260,7 +265,7 @@ bool LoadFile(const std::string& path, std::string& text, std::string& error,
     return false;
   }
 
-  std::string raw;
+  Buffer raw;
   std::string what;
   if (!ReadRaw(file.fd(), regular, size, limit, options.text_only, raw, what) ||
       !file.Close(what)) {
@@ -272,7 +277,7 @@ bool LoadFile(const std::string& path, std::string& text, std::string& error,
     return false;
   }
   if (IsGzip(raw.data(), raw.size())) {
-    if (!Gunzip(raw, limit, options.text_only, text, what)) {
+    if (!Gunzip(std::string_view(raw.data(), raw.size()), limit, options.text_only, text, what)) {
       error = cannot_read + what;
       return false;
     }
@@ -285,13 +290,25 @@ bool LoadFile(const std::string& path, std::string& text, std::string& error,
     text = std::move(raw);
   }
   if (options.text_only) {
-    if (const uint64_t line = NulLine(text)) {
+    if (const uint64_t line = NulLine(std::string_view(text.data(), text.size()))) {
       text.clear();
       error = path + ":" + std::to_string(line) + ": a NUL byte: this is not a text file";
       return false;
     }
   }
   return true;
+}
+
+}  // namespace
+
+bool LoadFile(const std::string& path, std::string& text, std::string& error,
+              const LoadOptions& options) {
+  return Load(path, text, error, options);
+}
+
+bool LoadFile(const std::string& path, TextBuffer& text, std::string& error,
+              const LoadOptions& options) {
+  return Load(path, text, error, options);
 }
 
 }  // namespace io

@@ -15,6 +15,8 @@
 #include <cstdint>
 #include <string>
 
+#include "io/TextBuffer.h"
+
 namespace io {
 
 // The most bytes of text (after decompression) one file may hold, unless the
@@ -42,6 +44,9 @@ bool CheckFile(const std::string& path, std::string& error);
 // Reads all of `path` into `text`. False with `error` set ("cannot open
 // '<path>': ...", "cannot read '<path>': ...") and `text` empty on failure.
 bool LoadFile(const std::string& path, std::string& text, std::string& error,
+              const LoadOptions& options = LoadOptions());
+// The same into a buffer of its own pages: for files that may be large.
+bool LoadFile(const std::string& path, TextBuffer& text, std::string& error,
               const LoadOptions& options = LoadOptions());
 
 }  // namespace io

@@ -4,7 +4,7 @@
 
 namespace verilog {
 
-bool ReadSourceFile(const std::string& path, std::string& text, std::string& error) {
+bool ReadSourceFile(const std::string& path, io::TextBuffer& text, std::string& error) {
   return io::LoadFile(path, text, error);
 }
 

@@ -4,10 +4,12 @@
 
 #include <string>
 
+#include "io/TextBuffer.h"
+
 namespace verilog {
 
 // Reads `path` into `text`. False with `error` set when the file cannot be
 // opened or read, or its compressed stream is damaged.
-bool ReadSourceFile(const std::string& path, std::string& text, std::string& error);
+bool ReadSourceFile(const std::string& path, io::TextBuffer& text, std::string& error);
 
 }  // namespace verilog

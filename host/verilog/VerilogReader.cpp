@@ -12,7 +12,7 @@ namespace verilog {
 namespace {
 
 // Parses `text` into `builder`; `text` may go once this returns.
-bool Parse(const std::string& text, const std::string& file_name, NetlistBuilder& builder,
+bool Parse(std::string_view text, const std::string& file_name, NetlistBuilder& builder,
            std::string& error) {
   VerilogLexer lexer(text);
   VerilogParser parser(lexer, builder);
@@ -49,9 +49,9 @@ bool ReadVerilogFile(cdm::Root* root, const std::string& path, std::vector<std::
   try {
     NetlistBuilder builder(root, path);
     {
-      std::string text;
+      io::TextBuffer text;
       if (!ReadSourceFile(path, text, error)) return false;
-      if (!Parse(text, path, builder, error)) return false;
+      if (!Parse(text.view(), path, builder, error)) return false;
     }  // the text goes before the definitions are made
     return Commit(builder, path, modules, error);
   } catch (const std::bad_alloc&) {

@@ -52,11 +52,20 @@ struct Loaded {
   std::string error;
 };
 
-Loaded Load(const std::string& path, uint64_t max_bytes = 0) {
+// Loads into a string and, where the file can be read twice, into a text
+// buffer too: both must give the same text or the same error.
+Loaded Load(const std::string& path, uint64_t max_bytes = 0, bool read_twice = true) {
   Loaded loaded;
   io::LoadOptions options;
   options.max_bytes = max_bytes;
   loaded.ok = io::LoadFile(path, loaded.text, loaded.error, options);
+  if (read_twice) {
+    io::TextBuffer buffer;
+    std::string error;
+    EXPECT_EQ(io::LoadFile(path, buffer, error, options), loaded.ok);
+    EXPECT_EQ(error, loaded.error);
+    EXPECT_TRUE(buffer.view() == loaded.text) << "the text buffer holds other text";
+  }
   return loaded;
 }
 
@@ -207,21 +216,42 @@ TEST(FileLoader, PipesAreReadToTheirEnd) {
   const std::string text = SampleText();
   {
     PipeWriter writer(text, 50);
-    Loaded loaded = Load(writer.Path());
+    Loaded loaded = Load(writer.Path(), 0, false);
     ASSERT_TRUE(loaded.ok) << loaded.error;
     EXPECT_EQ(loaded.text.size(), text.size() * 50);
   }
   {
     PipeWriter writer(Gzip(text), 3);
-    Loaded loaded = Load(writer.Path());
+    Loaded loaded = Load(writer.Path(), 0, false);
     ASSERT_TRUE(loaded.ok) << loaded.error;
     EXPECT_EQ(loaded.text, text + text + text);
   }
 }
 
+TEST(FileLoader, ATextBufferGrowsInPlaceAcrossManyPages) {
+  // A pipe gives no size: the buffer grows as the text comes, past several
+  // of its 2 MiB steps, and must keep every byte it had.
+  std::string text = SampleText();
+  const int copies = static_cast<int>((9u << 20) / text.size());
+  PipeWriter writer(text, copies);
+  io::TextBuffer buffer;
+  std::string error;
+  ASSERT_TRUE(io::LoadFile(writer.Path(), buffer, error)) << error;
+  ASSERT_EQ(buffer.size(), text.size() * copies);
+  for (int i = 0; i < copies; i += copies / 7)
+    EXPECT_EQ(buffer.view().substr(i * text.size(), text.size()), text) << "copy " << i;
+  EXPECT_EQ(buffer.view().substr((copies - 1) * text.size()), text);
+
+  io::TextBuffer moved = std::move(buffer);
+  EXPECT_TRUE(buffer.empty());
+  EXPECT_EQ(moved.size(), text.size() * copies);
+  moved.clear();
+  EXPECT_TRUE(moved.empty());
+}
+
 TEST(FileLoader, AnEndlessStreamStopsAtTheLimit) {
   PipeWriter writer("yes\n", 0);
-  Loaded loaded = Load(writer.Path(), 1 << 20);
+  Loaded loaded = Load(writer.Path(), 1 << 20, false);
   EXPECT_FALSE(loaded.ok);
   EXPECT_NE(loaded.error.find("': it holds more than the input limit of 1048576 bytes"),
             std::string::npos)
@@ -234,7 +264,7 @@ TEST(FileLoader, FifosAreReadLikePipes) {
   std::remove(path.c_str());
   ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
   std::thread writer([&] { std::ofstream(path) << "module f; endmodule\n"; });
-  Loaded loaded = Load(path);
+  Loaded loaded = Load(path, 0, false);
   writer.join();
   std::remove(path.c_str());
   ASSERT_TRUE(loaded.ok) << loaded.error;

@@ -12,11 +12,12 @@
 namespace {
 
 std::string LoadNetlist() {
-  std::string text, error;
+  io::TextBuffer text;
+  std::string error;
   EXPECT_TRUE(
       verilog::ReadSourceFile(std::string(KELVO_TEST_DATA) + "/gcd_nangate45.v", text, error))
       << error;
-  return text;
+  return std::string(text.view());
 }
 
 TEST(VerilogRobustness, TruncatedNetlistsAreRefusedCleanly) {

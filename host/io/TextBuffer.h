@@ -1,0 +1,40 @@
+// The text of an input file in memory of its own: anonymous pages that the
+// kernel may back with huge pages, so that a file of hundreds of megabytes
+// costs a few hundred page faults instead of one per 4 KiB. It grows in
+// place (the pages are remapped, not copied).
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace io {
+
+class TextBuffer {
+ public:
+  TextBuffer() = default;
+  ~TextBuffer();
+  TextBuffer(TextBuffer&& other) noexcept;
+  TextBuffer& operator=(TextBuffer&& other) noexcept;
+  TextBuffer(const TextBuffer&) = delete;
+  TextBuffer& operator=(const TextBuffer&) = delete;
+
+  const char* data() const { return data_; }
+  char* data() { return data_; }
+  size_t size() const { return size_; }
+  bool empty() const { return size_ == 0; }
+  char& operator[](size_t i) { return data_[i]; }
+  std::string_view view() const { return std::string_view(data_, size_); }
+
+  // Keeps the first min(size(), size) bytes; bytes past them are
+  // unspecified. Throws std::bad_alloc when the memory cannot be had.
+  void resize(size_t size);
+  // Empties the buffer and gives its memory back.
+  void clear();
+
+ private:
+  char* data_ = nullptr;
+  size_t size_ = 0;
+  size_t capacity_ = 0;
+};
+
+}  // namespace io
