@@ -56,6 +56,7 @@ std::string BaseName(const std::string& path) {
 
 NetlistBuilder::NetlistBuilder(cdm::Root* root, std::string file_name)
     : root_(root),
+      names_(root),
       file_name_(std::move(file_name)),
       symbol_index_([this](uint32_t i) { return NameOf(symbols_[i]); }),
       instance_index_([this](uint32_t i) { return draft_.names.View(draft_.cell_names[i]); }) {
@@ -246,7 +247,7 @@ bool NetlistBuilder::Instance(const InstanceAst& inst) {
   if (instance_index_.Insert(inst.name, index) != index)
     return Fail("instance '" + std::string(inst.name) + "' is defined twice in module '" +
                 design_->Name() + "'");
-  draft_.cell_refs.push_back(root_->Intern(inst.ref));
+  draft_.cell_refs.push_back(names_.Intern(inst.ref));
   for (const AttrAst& attr : inst.attrs)
     draft_.cell_attributes.emplace_back(index, MakeAttribute(attr));
   draft_.source.BeginInstance(inst.line, static_cast<uint32_t>(inst.conns.size()));
@@ -255,7 +256,7 @@ bool NetlistBuilder::Instance(const InstanceAst& inst) {
     const ConnAst& conn = inst.conns[i];
     const std::string* port = nullptr;
     if (!conn.port.empty()) {
-      port = root_->Intern(conn.port);
+      port = names_.Intern(conn.port);
       for (const std::string* seen : scratch_ports_)
         if (seen == port)
           return Fail("port '" + *port + "' of instance '" + std::string(inst.name) +

@@ -12,6 +12,7 @@
 
 #include "db/NameIndex.h"
 #include "db/NetlistEditor.h"
+#include "verilog/InternCache.h"
 #include "verilog/VerilogAst.h"
 
 namespace cdm {
@@ -75,6 +76,7 @@ class NetlistBuilder : public StatementSink {
   bool FinishNets();
 
   cdm::Root* root_;
+  InternCache names_;
   std::string file_name_;
   std::shared_ptr<cdm::Object> owner_;
   std::string error_;
