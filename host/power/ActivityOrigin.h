@@ -16,5 +16,10 @@ enum class ActivityOrigin : uint8_t {
   kConstant = 6,    // a logic constant or case analysis: no toggles
   kUnknown = 7,     // an undriven net, or a net outside the design
 };
+constexpr int kActivityOriginCount = 8;
+
+// The origin as reports name it: "user", "saif", "vcd", "clock",
+// "propagated", "default", "constant", "unknown".
+const char* OriginName(ActivityOrigin origin);
 
 }  // namespace power
