@@ -1,8 +1,6 @@
 // read_sdc FILE [-echo]: runs a constraint file (plain or gzipped) as Tcl,
 // command by command, so that warnings and errors name its lines. The
 // first error stops the reading; what the file set before it stays set.
-#include <zlib.h>
-
 #include <boost/any.hpp>
 #include <string>
 #include <vector>
@@ -11,44 +9,33 @@
 #include "cmdlib/HostCommands.h"
 #include "cmdlib/ReadFiles.h"
 #include "hostapi/cmd/CommonCmd.h"
+#include "io/FileLoader.h"
 #include "msg/ResultChannel.h"
 #include "sdc/SdcSource.h"
 
 namespace sta::sdc {
 namespace {
 
-// The whole file, inflated when it is gzipped; false with a reason.
-bool ReadWholeFile(const std::string& path, std::string& text, std::string& error) {
-  gzFile file = gzopen(path.c_str(), "rb");
-  if (!file) {
-    error = "cannot open '" + path + "'";
-    return false;
-  }
-  char buffer[1 << 16];
-  int count = 0;
-  while ((count = gzread(file, buffer, sizeof buffer)) > 0)
-    text.append(buffer, static_cast<size_t>(count));
-  int code = Z_OK;
-  const char* message = count < 0 ? gzerror(file, &code) : nullptr;
-  gzclose(file);
-  if (count < 0) {
-    error = "cannot read '" + path + "': " + (message ? message : "read error");
-    return false;
-  }
-  if (text.find('\0') != std::string::npos) {
-    error = "'" + path + "' is no text file";
-    return false;
-  }
-  return true;
-}
-
 // Follows the line of the command that runs, also inside loop bodies and
 // other nested scripts of the file: each command entered asks the
 // interpreter for its frame. Only the innermost read_sdc listens.
+// Commands of procedures (a proc of the file, or `unknown` behind a bad
+// command name) run at a deeper level and are left out: their lines are
+// not the file's.
 struct LineTracker {
-  int line = 0;  // within the top-level command being run; 0 unknown
+  int first = 0;  // the file's line of the top-level command being run
+  int line = 0;   // within that command; 0 unknown
+  int level = 0;  // the Tcl level the file's commands run at
   bool busy = false;
 };
+
+int CurrentLevel(Tcl_Interp* interp) {
+  int level = 0;
+  if (Tcl_EvalEx(interp, "info level", -1, 0) != TCL_OK ||
+      Tcl_GetIntFromObj(nullptr, Tcl_GetObjResult(interp), &level) != TCL_OK)
+    return -1;
+  return level;
+}
 
 std::vector<LineTracker*>& Trackers() {
   static std::vector<LineTracker*> trackers;
@@ -61,7 +48,8 @@ int TrackLine(ClientData data, Tcl_Interp* interp, int, const char*, Tcl_Command
   if (tracker->busy || Trackers().empty() || Trackers().back() != tracker) return TCL_OK;
   tracker->busy = true;
   Tcl_InterpState saved = Tcl_SaveInterpState(interp, TCL_OK);
-  if (Tcl_EvalEx(interp, "info frame -1", -1, 0) == TCL_OK) {
+  if (CurrentLevel(interp) == tracker->level &&
+      Tcl_EvalEx(interp, "info frame -1", -1, 0) == TCL_OK) {
     Tcl_Obj* frame = Tcl_GetObjResult(interp);
     Tcl_Obj* type = nullptr;
     Tcl_Obj* line = nullptr;
@@ -73,8 +61,10 @@ int TrackLine(ClientData data, Tcl_Interp* interp, int, const char*, Tcl_Command
     if (Tcl_DictObjGet(nullptr, frame, type_key, &type) == TCL_OK && type &&
         std::string(Tcl_GetString(type)) == "eval" &&
         Tcl_DictObjGet(nullptr, frame, line_key, &line) == TCL_OK && line &&
-        Tcl_GetIntFromObj(nullptr, line, &number) == TCL_OK)
+        Tcl_GetIntFromObj(nullptr, line, &number) == TCL_OK) {
       tracker->line = number;
+      SdcSource::SetLine(tracker->first + number - 1);
+    }
     Tcl_DecrRefCount(type_key);
     Tcl_DecrRefCount(line_key);
   }
@@ -94,6 +84,9 @@ class FileScope {
  public:
   FileScope(Tcl_Interp* interp, const std::string& path) : interp_(interp) {
     SdcSource::Enter(path);
+    Tcl_InterpState saved = Tcl_SaveInterpState(interp, TCL_OK);
+    tracker_.level = CurrentLevel(interp);
+    Tcl_RestoreInterpState(interp, saved);
     Trackers().push_back(&tracker_);
     trace_ =
         Tcl_CreateObjTrace(interp, 0, TCL_ALLOW_INLINE_COMPILATION, TrackLine, &tracker_, nullptr);
@@ -150,7 +143,7 @@ class ReadSdcCmd : public CommonCmd {
  private:
   static bool ReadOne(Tcl_Interp* interp, const std::string& path, bool echo, std::string& error) {
     std::string text;
-    if (!ReadWholeFile(path, text, error)) return false;
+    if (!io::LoadFile(path, text, error)) return false;
     FileScope scope(interp, path);
     return RunCommands(interp, path, text, echo, scope.Tracker(), error);
   }
@@ -189,6 +182,7 @@ class ReadSdcCmd : public CommonCmd {
           while (!shown.empty() && (shown.back() == '\n' || shown.back() == ';')) shown.pop_back();
           msg::WriteResult(shown + "\n");
         }
+        tracker.first = command_line;
         tracker.line = 0;
         const int code = Tcl_EvalEx(interp, command, size, 0);
         if (code == TCL_ERROR) {

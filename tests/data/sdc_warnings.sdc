@@ -10,3 +10,6 @@ set_min_pulse_width 0.5 [get_clocks clk]
 set_false_path -from [get_ports nosuch_port] -to out1
 set_load 0.2 [get_cells r1]
 set_max_fanout 8 [current_design]
+foreach port {nosuch_a nosuch_b} {
+  set_load 0.3 $port
+}
