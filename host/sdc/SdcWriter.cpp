@@ -250,6 +250,17 @@ void SdcWriter::WriteClocks() {
   for (const Clock* clock : store_.Clocks()) WriteClock(clock);
 }
 
+bool SdcWriter::SharesSource(const Clock* clock) const {
+  for (const Clock* other : store_.Clocks()) {
+    if (other == clock) continue;
+    for (const cdm::Pin* pin : clock->getSources())
+      if (std::find(other->getSources().begin(), other->getSources().end(), pin) !=
+          other->getSources().end())
+        return true;
+  }
+  return false;
+}
+
 void SdcWriter::WriteClock(const Clock* clock) {
   std::string sources;
   for (const cdm::Pin* pin : clock->getSources()) sources += " " + PinObject(pin);
@@ -284,7 +295,10 @@ void SdcWriter::WriteClock(const Clock* clock) {
     if (clock->isInverted()) out_ << " -invert";
     if (clock->isCombinational()) out_ << " -combinational";
   }
-  if (clock->isAdded()) out_ << " -add";
+  // A clock that shares a source with another is written with -add, also
+  // the first one: read on top of the same constraints, a clock without it
+  // would take the source from the other and remove that one.
+  if (clock->isAdded() || SharesSource(clock)) out_ << " -add";
   if (!clock->getComment().empty()) out_ << " -comment " << Quote(clock->getComment());
   out_ << sources << "\n";
 }

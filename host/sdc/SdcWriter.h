@@ -26,6 +26,7 @@ class SdcWriter {
   void WriteUnitsAndDesign();
   void WriteClocks();
   void WriteClock(const Clock* clock);
+  bool SharesSource(const Clock* clock) const;
   void WriteClockAttributes();
   void WriteDelays();
   void WritePorts();

@@ -9,6 +9,7 @@ set_max_area 50
 set_max_transition 0.9 [current_design]
 set_max_fanout 16 [current_design]
 create_clock -name clk -period 10 -waveform {0 4} [get_ports clk]
+create_clock -name clk_x2 -period 5 -add [get_ports clk]
 create_clock -name vclk -period 3.3
 create_generated_clock -name div2 -source [get_ports clk] -divide_by 2 -comment {half rate} [get_pins r1/Q]
 set_propagated_clock [get_clocks clk]
