@@ -1,6 +1,6 @@
 // sizeof_collection, foreach_in_collection, get_attribute,
-// get_object_name, filter_collection, add_to_collection and
-// index_collection.
+// get_object_name, filter_collection, add_to_collection,
+// remove_from_collection and index_collection.
 #include <boost/any.hpp>
 #include <unordered_set>
 
@@ -275,6 +275,32 @@ class AddToCollectionCmd : public CollectionCmd {
   }
 };
 
+class RemoveFromCollectionCmd : public CollectionCmd {
+ public:
+  RemoveFromCollectionCmd()
+      : CollectionCmd("remove_from_collection",
+                      "A collection less the objects of another (or only those, -intersect)",
+                      nullptr) {
+    addOptions("help", "Display help info", false, ValueType::kFlag, std::any());
+    addOptions("intersect", "Keep only the objects that are also in the other", false,
+               ValueType::kFlag, std::any());
+    addOptions("collection", "The collection", true, ValueType::kString, std::any());
+    addOptions("objects", "Objects to remove (collections or names)", true, ValueType::kStringList,
+               std::any());
+  }
+  int exec() override {
+    std::vector<ObjectRef> refs, other;
+    if (!Objects("collection", kAnyKind, refs) || !Objects("objects", kAnyKind, other)) return 1;
+    const std::unordered_set<ObjectRef, RefHash> named(other.begin(), other.end());
+    const bool keep_named = getOptionValue("intersect");
+    std::vector<ObjectRef> kept;
+    for (const ObjectRef& ref : refs)
+      if ((named.count(ref) > 0) == keep_named) kept.push_back(ref);
+    SetCollectionResult(*this, std::move(kept));
+    return 0;
+  }
+};
+
 class IndexCollectionCmd : public CollectionCmd {
  public:
   IndexCollectionCmd()
@@ -305,6 +331,7 @@ cmdlib::HostCommandRegistrar registrar([] {
   new GetObjectNameCmd();
   new FilterCollectionCmd();
   new AddToCollectionCmd();
+  new RemoveFromCollectionCmd();
   new IndexCollectionCmd();
 });
 

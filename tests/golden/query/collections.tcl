@@ -57,6 +57,7 @@ puts "get_attribute of several: [get_attribute [get_ports {in1 out1 data[0]}] di
 puts "get_object_name: [get_object_name [get_clocks *]]"
 puts "filter_collection: [filter_collection [get_cells *] {ref_name =~ D*}]"
 puts "add_to_collection: [add_to_collection [get_ports in1] [get_nets in1]] / [add_to_collection -unique [get_ports in1] [get_ports {in1 in2}]]"
+puts "remove_from_collection: [remove_from_collection [all_inputs] [get_ports {clk data*}]] / [remove_from_collection [get_ports clk] [get_nets clk]] / -intersect [remove_from_collection -intersect [get_cells *] {r2 r1}]"
 puts "index_collection: [index_collection [get_cells *] 2]"
 puts "all_registers: [all_registers] / [all_registers -clock_pins] / [all_registers -data_pins] / [all_registers -output_pins]"
 puts "all_registers -clock clk: [all_registers -clock clk] / vclk: [all_registers -clock vclk]"
