@@ -1,19 +1,26 @@
 #!/bin/sh
-# Generates flat and hierarchical netlists of 10k, 100k and 1M instances
-# and reads and links each against sky130hd.
-# Usage: bench/run_read_link.sh BUILD_DIR [SIZES]
+# Generates netlists of several shapes and sizes and reads and links each
+# against sky130hd, one process per netlist so that each peak is its own.
+# Shapes: flat, hier (100-gate leaves, 10 to a middle block), modules (a
+# thousand distinct 1000-gate modules), reused (one 1000-gate module used a
+# thousand times), bignet (one net of INSTANCES-1 loads, whose every pin is
+# asked its driver and fan-in).
+# Usage: bench/run_read_link.sh BUILD_DIR [SIZES] [SHAPES]
 set -e
-build=${1:?usage: run_read_link.sh BUILD_DIR [SIZES]}
+build=${1:?usage: run_read_link.sh BUILD_DIR [SIZES] [SHAPES]}
 sizes=${2:-"10000 100000 1000000"}
+shapes=${3:-"flat hier modules reused bignet"}
 work=${TMPDIR:-/tmp}/kelvo_bench_netlists
 mkdir -p "$work"
-files=""
+lib=$(dirname "$0")/../tests/data/sky130hd_tt.lib.gz
 for n in $sizes; do
-  for kind in flat hier; do
+  for kind in $shapes; do
     f="$work/${kind}_$n.v"
     [ -f "$f" ] || "$build/kelvo_gen_netlist" "$kind" "$n" "$f"
-    files="$files $f"
+    if [ "$kind" = bignet ]; then
+      "$build/kelvo_bench_read_link" -lib "$lib" -net big "$f"
+    else
+      "$build/kelvo_bench_read_link" -lib "$lib" "$f"
+    fi
   done
 done
-lib=$(dirname "$0")/../tests/data/sky130hd_tt.lib.gz
-"$build/kelvo_bench_read_link" -lib "$lib" $files
