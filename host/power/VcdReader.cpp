@@ -1,0 +1,338 @@
+#include "power/VcdReader.h"
+
+#include <cstdlib>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "db/PathLookup.h"
+#include "hostapi/cdm/Cell.h"
+#include "hostapi/cdm/Net.h"
+
+namespace power {
+namespace {
+
+// One bit of a variable the design has.
+struct Bit {
+  std::string net;     // full name
+  uint32_t flat = 0;   // flat net id
+  char value = 'x';    // '0', '1' or 'x'
+  uint64_t since = 0;  // when it last changed
+  uint64_t high = 0;   // time at 1 so far
+  uint64_t low = 0;    // time at 0 so far
+  uint64_t transitions = 0;
+};
+
+class VcdParser {
+ public:
+  VcdParser(const std::string& file, const std::string& text, const cdm::Design& design,
+            const std::string& scope)
+      : file_(file), text_(text), design_(design) {
+    std::string part;
+    for (char c : scope + "/") {
+      if (c == '/' || c == '.') {
+        if (!part.empty()) scope_.push_back(part);
+        part.clear();
+      } else {
+        part += c;
+      }
+    }
+  }
+
+  bool Parse(ActivityFileResult& result, std::string& error) {
+    if (!Header() || !Body()) {
+      error = error_;
+      return false;
+    }
+    if (!found_) {
+      error = file_ + ": no scope '" + Joined() + "' in the dump";
+      return false;
+    }
+    if (!started_ || end_ <= start_) {
+      error = file_ + ": no time passes in the dump";
+      return false;
+    }
+    const double duration = static_cast<double>(end_ - start_);
+    std::unordered_set<uint32_t> flat;
+    for (Bit& bit : bits_) {
+      Settle(bit, end_);
+      ActivitySetting setting;
+      setting.origin = ActivityOrigin::kVcd;
+      setting.rate = RateSetting{bit.transitions / (duration * timescale_), false};
+      // Of the time the value is known, as SAIF's T1 / (T0 + T1).
+      if (bit.high + bit.low > 0)
+        setting.probability =
+            static_cast<double>(bit.high) / static_cast<double>(bit.high + bit.low);
+      result.nets.emplace_back(bit.net, setting);
+      flat.insert(bit.flat);
+    }
+    result.flat_nets = flat.size();
+    result.missing = missing_;
+    result.first_missing = first_missing_;
+    return true;
+  }
+
+ private:
+  bool Fail(int line, const std::string& why) {
+    if (error_.empty()) error_ = file_ + ":" + std::to_string(line) + ": " + why;
+    return false;
+  }
+  std::string Joined() const {
+    std::string path;
+    for (const std::string& part : scope_) path += (path.empty() ? "" : "/") + part;
+    return path;
+  }
+
+  // The next blank-separated token; empty at the end of the text.
+  std::string_view Next() {
+    while (pos_ < text_.size() && isspace(static_cast<unsigned char>(text_[pos_]))) {
+      if (text_[pos_] == '\n') ++line_;
+      ++pos_;
+    }
+    const size_t first = pos_;
+    while (pos_ < text_.size() && !isspace(static_cast<unsigned char>(text_[pos_]))) ++pos_;
+    return std::string_view(text_).substr(first, pos_ - first);
+  }
+  // The tokens up to "$end".
+  bool UpToEnd(std::vector<std::string_view>& tokens, std::string_view keyword) {
+    const int line = line_;
+    tokens.clear();
+    for (;;) {
+      const std::string_view token = Next();
+      if (token.empty())
+        return Fail(line, "'" + std::string(keyword) + "' is not closed by '$end'");
+      if (token == "$end") return true;
+      tokens.push_back(token);
+    }
+  }
+
+  bool Header() {
+    std::vector<std::string_view> tokens;
+    for (;;) {
+      const std::string_view token = Next();
+      const int line = line_;
+      if (token.empty()) return Fail(line, "the dump ends before '$enddefinitions'");
+      if (token == "$enddefinitions") return UpToEnd(tokens, token);
+      if (token == "$date" || token == "$version" || token == "$comment") {
+        if (!UpToEnd(tokens, token)) return false;
+      } else if (token == "$timescale") {
+        if (!UpToEnd(tokens, token) || !Timescale(tokens, line)) return false;
+      } else if (token == "$scope") {
+        if (!UpToEnd(tokens, token)) return false;
+        if (tokens.size() != 2) return Fail(line, "expected '$scope TYPE NAME $end'");
+        scopes_.emplace_back(tokens[1]);
+        if (scopes_.size() == Depth() && InScope()) found_ = true;
+        leaf_.push_back(LeafScope());
+      } else if (token == "$upscope") {
+        if (!UpToEnd(tokens, token)) return false;
+        if (scopes_.empty()) return Fail(line, "'$upscope' outside every scope");
+        scopes_.pop_back();
+        leaf_.pop_back();
+      } else if (token == "$var") {
+        if (!UpToEnd(tokens, token) || !Var(tokens, line)) return false;
+      } else {
+        return Fail(line, "unexpected '" + std::string(token) + "' in the definitions");
+      }
+    }
+  }
+
+  bool Timescale(const std::vector<std::string_view>& tokens, int line) {
+    std::string text;
+    for (std::string_view token : tokens) text += token;
+    size_t digits = 0;
+    while (digits < text.size() && isdigit(static_cast<unsigned char>(text[digits]))) ++digits;
+    const double number = digits ? std::atof(text.substr(0, digits).c_str()) : 0.0;
+    const std::string unit = text.substr(digits);
+    static const std::pair<const char*, double> kUnits[] = {
+        {"s", 1.0}, {"ms", 1e-3}, {"us", 1e-6}, {"ns", 1e-9}, {"ps", 1e-12}, {"fs", 1e-15}};
+    for (const auto& [name, scale] : kUnits) {
+      if (unit == name && number > 0.0) {
+        timescale_ = number * scale;
+        return true;
+      }
+    }
+    return Fail(line, "expected a timescale such as '1ps', found '" + text + "'");
+  }
+
+  // A scope below the design's that is a leaf cell of it (a library cell, or
+  // a cell whose reference did not resolve): its variables are pins, which
+  // the nets already cover. So is every scope inside it.
+  bool LeafScope() const {
+    if (leaf_.size() && leaf_.back()) return true;
+    if (!InScope() || scopes_.size() <= Depth()) return false;
+    std::string path;
+    for (size_t i = Depth(); i < scopes_.size(); ++i)
+      path += (path.empty() ? "" : "/") + scopes_[i];
+    const cdm::Cell* cell = cdm::FindCellByPath(&design_, path);
+    return cell && !cell->GetRefDesign();
+  }
+  size_t Depth() const { return scope_.empty() ? 1 : scope_.size(); }
+  bool InScope() const {
+    if (scopes_.size() < Depth()) return false;
+    for (size_t i = 0; i < scope_.size(); ++i)
+      if (scopes_[i] != scope_[i]) return false;
+    return true;
+  }
+
+  // $var TYPE WIDTH ID REFERENCE [RANGE] $end
+  bool Var(const std::vector<std::string_view>& tokens, int line) {
+    if (tokens.size() < 4 || tokens.size() > 5)
+      return Fail(line, "expected '$var TYPE WIDTH ID NAME [RANGE] $end'");
+    const std::string width_text(tokens[1]);
+    char* end = nullptr;
+    const long width = std::strtol(width_text.c_str(), &end, 10);
+    if (width_text.empty() || *end != '\0' || width < 1 || width > 1 << 20)
+      return Fail(line, "expected a width from 1 to 1048576, found '" + width_text + "'");
+    std::vector<int32_t>& slots = ids_[tokens[2]];  // every id is known, tracked or not
+    if (tokens[0] == "real" || tokens[0] == "realtime" || tokens[0] == "event" ||
+        tokens[0] == "parameter" || !InScope() || (!leaf_.empty() && leaf_.back()))
+      return true;
+    std::string base(tokens[3]);
+    std::string range = tokens.size() == 5 ? std::string(tokens[4]) : std::string();
+    if (!base.empty() && base[0] == '\\') {
+      base.erase(0, 1);  // an escaped name keeps its brackets
+    } else if (range.empty() && !base.empty() && base.back() == ']') {
+      const size_t open = base.rfind('[');
+      if (open != std::string::npos && open > 0) {
+        range = base.substr(open);
+        base.erase(open);
+      }
+    }
+    long msb = width - 1, lsb = 0;
+    bool indexed = width > 1;
+    if (!range.empty()) {
+      const size_t colon = range.find(':');
+      if (range.front() != '[' || range.back() != ']')
+        return Fail(line, "expected a range such as '[7:0]', found '" + range + "'");
+      msb = std::atol(
+          range.substr(1, colon == std::string::npos ? std::string::npos : colon - 1).c_str());
+      lsb = colon == std::string::npos ? msb : std::atol(range.substr(colon + 1).c_str());
+      indexed = true;
+    }
+    std::string prefix;
+    for (size_t i = Depth(); i < scopes_.size(); ++i) prefix += scopes_[i] + "/";
+    const size_t first_slot = slots.size();
+    slots.resize(first_slot + static_cast<size_t>(width), -1);
+    for (long k = 0; k < width; ++k) {
+      // Bit k from the left of a value.
+      const long index = msb >= lsb ? msb - k : msb + k;
+      const std::string name =
+          prefix + base + (indexed ? "[" + std::to_string(index) + "]" : std::string());
+      const cdm::Net* net = cdm::FindNetByPath(&design_, name);
+      if (!net || net->FlatNetId() == 0) {
+        if (missing_++ == 0) first_missing_ = name;
+        continue;
+      }
+      slots[first_slot + static_cast<size_t>(k)] = static_cast<int32_t>(bits_.size());
+      Bit bit;
+      bit.net = net->GetFullName();
+      bit.flat = net->FlatNetId();
+      bits_.push_back(std::move(bit));
+    }
+    widths_[tokens[2]].push_back(width);
+    return true;
+  }
+
+  bool Body() {
+    for (;;) {
+      const std::string_view token = Next();
+      const int line = line_;
+      if (token.empty()) return true;
+      const char c = token[0];
+      if (c == '#') {
+        const std::string number(token.substr(1));
+        char* end = nullptr;
+        const unsigned long long time = std::strtoull(number.c_str(), &end, 10);
+        if (number.empty() || *end != '\0' || number[0] == '-')
+          return Fail(line, "expected a time after '#', found '" + std::string(token) + "'");
+        if (started_ && time < now_)
+          return Fail(line, "time " + number + " goes back from " + std::to_string(now_));
+        if (!started_) start_ = time;
+        started_ = true;
+        now_ = end_ = time;
+      } else if (c == '$') {
+        std::vector<std::string_view> tokens;
+        if (token == "$comment" && !UpToEnd(tokens, token)) return false;
+        // $dumpvars, $dumpall, $dumpon, $dumpoff and their $end: the values
+        // inside are changes like any other.
+      } else if (c == '0' || c == '1' || c == 'x' || c == 'X' || c == 'z' || c == 'Z') {
+        if (!Change(token.substr(1), token.substr(0, 1), line)) return false;
+      } else if (c == 'b' || c == 'B') {
+        const std::string_view id = Next();
+        if (id.empty()) return Fail(line, "a vector value without an identifier");
+        if (!Change(id, token.substr(1), line)) return false;
+      } else if (c == 'r' || c == 'R') {
+        const std::string_view id = Next();
+        if (ids_.find(id) == ids_.end())
+          return Fail(line, "unknown identifier '" + std::string(id) + "'");
+      } else {
+        return Fail(line, "unexpected '" + std::string(token) + "'");
+      }
+    }
+  }
+
+  // Adds the time since the bit's last change to its time at 0 or 1.
+  static void Settle(Bit& bit, uint64_t now) {
+    if (bit.value == '1') bit.high += now - bit.since;
+    if (bit.value == '0') bit.low += now - bit.since;
+    bit.since = now;
+  }
+
+  bool Change(std::string_view id, std::string_view value, int line) {
+    auto found = ids_.find(id);
+    if (found == ids_.end()) return Fail(line, "unknown identifier '" + std::string(id) + "'");
+    if (value.empty()) return Fail(line, "a vector change without a value");
+    for (char v : value)
+      if (v != '0' && v != '1' && v != 'x' && v != 'X' && v != 'z' && v != 'Z')
+        return Fail(line, "expected a value of 0, 1, x and z, found '" + std::string(value) + "'");
+    const std::vector<int32_t>& slots = found->second;
+    if (slots.empty()) return true;
+    // Every variable on the identifier has the same width; the value is
+    // widened on the left with 0, or with x or z when it starts with one.
+    const size_t width = static_cast<size_t>(widths_[id].front());
+    const char fill = value[0] == '1' ? '0' : value[0];
+    for (size_t s = 0; s < slots.size(); ++s) {
+      if (slots[s] < 0) continue;
+      const size_t k = s % width;
+      const size_t pad = width > value.size() ? width - value.size() : 0;
+      char v = k < pad ? fill : value[k - pad + (value.size() > width ? value.size() - width : 0)];
+      v = v == '0' || v == '1' ? v : 'x';
+      Bit& bit = bits_[slots[s]];
+      if (bit.value == v) continue;
+      Settle(bit, now_);
+      if ((bit.value == '0' && v == '1') || (bit.value == '1' && v == '0')) ++bit.transitions;
+      bit.value = v;
+    }
+    return true;
+  }
+
+  const std::string& file_;
+  const std::string& text_;
+  const cdm::Design& design_;
+  std::vector<std::string> scope_;
+  std::vector<std::string> scopes_;  // where the definitions are
+  std::vector<bool> leaf_;           // per open scope: a leaf cell's
+  size_t pos_ = 0;
+  int line_ = 1;
+  std::string error_;
+  double timescale_ = 1e-9;
+  bool found_ = false;
+  bool started_ = false;
+  uint64_t start_ = 0, now_ = 0, end_ = 0;
+  std::unordered_map<std::string_view, std::vector<int32_t>> ids_;  // slots per bit, -1 untracked
+  std::unordered_map<std::string_view, std::vector<long>> widths_;
+  std::vector<Bit> bits_;
+  size_t missing_ = 0;
+  std::string first_missing_;
+};
+
+}  // namespace
+
+bool ReadVcd(const std::string& file, const std::string& text, const cdm::Design& design,
+             const std::string& scope, ActivityFileResult& result, std::string& error) {
+  VcdParser parser(file, text, design, scope);
+  return parser.Parse(result, error);
+}
+
+}  // namespace power
