@@ -196,6 +196,9 @@ bool LibEditor::PinStatement(LibCell* cell, const std::vector<LibPort*>& ports,
   if (name == "max_transition") {
     return set_number(units.time.scale, [](LibPort& p, double v) { p.max_transition_ = v; });
   }
+  if (name == "max_fanout") return set_number(1.0, [](LibPort& p, double v) { p.max_fanout_ = v; });
+  if (name == "fanout_load")
+    return set_number(1.0, [](LibPort& p, double v) { p.fanout_load_ = v; });
   if (name == "rise_capacitance_range" || name == "fall_capacitance_range") {
     double low = 0.0;
     double high = 0.0;

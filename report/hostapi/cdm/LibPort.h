@@ -33,6 +33,9 @@ class LibPort : public Port {
   // `max_capacitance` / `min_capacitance`; -1 when unset.
   double GetCapacitanceLimits(const MinMax* minmax) const { return cap_limit_[minmax->index()]; }
   double GetMaxTransition() const { return max_transition_; }  // seconds, -1 unset
+  // `max_fanout` and `fanout_load`; -1 when unset.
+  double GetMaxFanout() const { return max_fanout_; }
+  double GetFanoutLoad() const { return fanout_load_; }
 
   // Null when the pin has none.
   const LibBoolFuncExpr* GetFunction() const { return function_.get(); }
@@ -57,6 +60,8 @@ class LibPort : public Port {
   double edge_cap_range_[2][2] = {{-1.0, -1.0}, {-1.0, -1.0}};  // [edge][min/max]
   double cap_limit_[2] = {-1.0, -1.0};                          // min, max
   double max_transition_ = -1.0;
+  double max_fanout_ = -1.0;
+  double fanout_load_ = -1.0;
   bool is_clock_ = false;
   std::unique_ptr<LibBoolFuncExpr> function_;
   std::unique_ptr<LibBoolFuncExpr> state_function_;
