@@ -15,10 +15,20 @@ ReportNumbers::ReportNumbers(int digits)
   }
 }
 
+std::string ReportNumbers::Count(double value) const {
+  char text[64];
+  std::snprintf(text, sizeof text, "%.*f", digits_, value);
+  return WithoutNegativeZero(text);
+}
+
 std::string ReportNumbers::Format(const cdm::Unit& unit, double value) const {
-  std::string text = unit.asString(value, digits_);
+  return WithoutNegativeZero(unit.asString(value, digits_));
+}
+
+std::string ReportNumbers::WithoutNegativeZero(std::string text) {
   // A value that rounds to zero prints without its sign.
-  if (text[0] == '-' && text.find_first_not_of("-0.") == std::string::npos) text.erase(0, 1);
+  if (!text.empty() && text[0] == '-' && text.find_first_not_of("-0.") == std::string::npos)
+    text.erase(0, 1);
   return text;
 }
 

@@ -15,12 +15,15 @@ class ReportNumbers {
 
   std::string Time(double seconds) const { return Format(time_, seconds); }
   std::string Cap(double farads) const { return Format(cap_, farads); }
+  // A number without a unit (fan-out, area).
+  std::string Count(double value) const;
   int Digits() const { return digits_; }
   const cdm::Unit& TimeUnit() const { return time_; }
   const cdm::Unit& CapUnit() const { return cap_; }
 
  private:
   std::string Format(const cdm::Unit& unit, double value) const;
+  static std::string WithoutNegativeZero(std::string text);
 
   int digits_;
   cdm::Unit time_;

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <tcl.h>
 
+#include <cmath>
 #include <memory>
 #include <string>
 #include <vector>
