@@ -20,6 +20,7 @@
 #include "hostapi/cdm/Port.h"
 #include "hostapi/sta/SdcMain.h"
 #include "hostapi/sta/SdcMgr.h"
+#include "parasitics/NetAnnotations.h"
 #include "parasitics/WireLoadEstimator.h"
 #include "sdc/SdcStore.h"
 #include "sdc/WireLoadChoice.h"
@@ -92,6 +93,7 @@ void EstimateNetWire(const cdm::Net* net, int flat_loads, const cdm::MinMax* min
                      float& wire_cap, float& resistance) {
   wire_cap = 0.0f;
   resistance = 0.0f;
+  if (AnnotatedNetWire(net, wire_cap, resistance)) return;  // read from SPEF
   SdcStore& store = sta::sdc::SdcMain::getOrCreateSdcMgr(nullptr)->store();
   if (!store.Sync()) {
     // No design of the store's: the default library's default model.
