@@ -28,6 +28,9 @@ const CatalogueEntry kCatalogue[] = {
      "constraints relative to it."},
     {STA_001, Severity::kWarning,
      "Combinational loop cut at the arc from '%s' to '%s'; the loop's pins: %s."},
+    {STA_002, Severity::kWarning,
+     "SPEF net '%s' is not a net of design '%s'; its parasitics are left out."},
+    {STA_003, Severity::kWarning, "SPEF %s '%s' of net '%s' is not in design '%s'."},
 };
 
 }  // namespace

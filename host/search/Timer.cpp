@@ -9,6 +9,7 @@
 #include "hostapi/msg/Msg.h"
 #include "hostapi/sta/SdcMain.h"
 #include "hostapi/sta/SdcMgr.h"
+#include "parasitics/NetAnnotations.h"
 #include "sdc/SdcStore.h"
 #include "search/TimingInputs.h"
 
@@ -67,6 +68,7 @@ Timer::Stamp Timer::Current() const {
   Stamp stamp;
   stamp.database = root_->ChangeGeneration();
   if (sdc::SdcStore* store = Store()) stamp.constraints = store->Generation();
+  stamp.parasitics = parasitics::NetAnnotations::Get().Generation();
   return stamp;
 }
 
