@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <utility>
 
 #include "db/Elaboration.h"
 #include "db/PathLookup.h"
@@ -58,6 +60,7 @@ ActivityPropagator::ActivityPropagator(const sta::Timer& timer,
 void ActivityPropagator::Run(std::vector<NetActivity>& nets) {
   nets_ = &nets;
   Seed();
+  Plan();
   passes_ = 0;
   for (pass_ = 0; pass_ < kMaxPasses; ++pass_) {
     ++passes_;
@@ -147,102 +150,234 @@ void ActivityPropagator::Seed() {
   }
 }
 
-bool ActivityPropagator::Pass() {
+void ActivityPropagator::Plan() {
   const sta::TimingGraph& graph = *timer_.Graph();
   const cdm::Elaboration& elaboration = *timer_.Root()->GetElaboration();
-  std::vector<NetActivity>& nets = *nets_;
-  bool changed = false;
+  const std::vector<NetActivity>& nets = *nets_;
+  nodes_.clear();
+  refs_.clear();
+  states_.clear();
+  first_state_.clear();
+  changed_at_.assign(nets.size(), -1);
   for (uint32_t v : graph.LevelOrder()) {
     const sta::Vertex* vertex = graph.vertex(v);
     if (!vertex || !vertex->isDriver() || !vertex->pin() || !vertex->pin()->GetCell()) continue;
-    const cdm::Net* net = vertex->pin()->GetNet();
+    const cdm::Pin* pin = vertex->pin();
+    const cdm::Net* net = pin->GetNet();
     const uint32_t id = net ? net->FlatNetId() : 0;
     if (id == 0 || id >= nets.size() || fixed_[id] || elaboration.FlatNetDrivers(id)[0] != v)
       continue;
-    NetActivity activity = CellOutput(vertex->pin());
-    if (override_of_[id] >= 0) Apply(overrides_[override_of_[id]], activity);
-    if (Differs(activity, nets[id])) changed = true;
-    nets[id] = activity;
+    Node node;
+    node.net = id;
+    const cdm::Cell& cell = *pin->GetCell();
+    const auto* port = dynamic_cast<const cdm::LibPort*>(pin->GetPort());
+    const cdm::LibBoolFuncExpr* function = port ? port->GetFunction() : nullptr;
+    if (function && !function->IsEmpty() && cell.GetRefLibCell()) {
+      node.function = function;
+      node.first = AddRefs(*function, cell, node.reads_state);
+      node.count = static_cast<uint32_t>(function->GetFuncPorts().size());
+    }
+    nodes_.push_back(node);
+  }
+  Order();
+}
+
+void ActivityPropagator::Order() {
+  // What each node reads: the nodes of its input nets, and through a
+  // register's state the nodes of its next state and clock.
+  std::vector<uint32_t> node_of(nets_->size(), UINT32_MAX);
+  for (uint32_t i = 0; i < nodes_.size(); ++i) node_of[nodes_[i].net] = i;
+  std::vector<uint32_t> dep_first(nodes_.size() + 1, 0);
+  std::vector<uint32_t> deps;
+  auto add = [&](uint32_t first, uint32_t count) {
+    for (uint32_t r = first; r < first + count; ++r)
+      if (!(refs_[r] & kState) && node_of[refs_[r]] != UINT32_MAX)
+        deps.push_back(node_of[refs_[r]]);
+  };
+  for (uint32_t i = 0; i < nodes_.size(); ++i) {
+    dep_first[i] = static_cast<uint32_t>(deps.size());
+    const Node& node = nodes_[i];
+    add(node.first, node.count);
+    for (uint32_t r = node.first; r < node.first + node.count; ++r) {
+      if (!(refs_[r] & kState)) continue;
+      const State& state = states_[refs_[r] & kIndex];
+      add(state.data_first, state.data_count);
+      add(state.clock_first, state.clock_count);
+    }
+  }
+  dep_first[nodes_.size()] = static_cast<uint32_t>(deps.size());
+  // Depth first from each node in level order, inputs before readers; an
+  // input met while its own inputs are being visited closes a loop, which
+  // is cut there.
+  std::vector<uint8_t> mark(nodes_.size(), 0);       // 0 new, 1 on the way, 2 placed
+  std::vector<std::pair<uint32_t, uint32_t>> stack;  // node, next dependency
+  std::vector<Node> ordered;
+  ordered.reserve(nodes_.size());
+  for (uint32_t root = 0; root < nodes_.size(); ++root) {
+    if (mark[root]) continue;
+    mark[root] = 1;
+    stack.emplace_back(root, dep_first[root]);
+    while (!stack.empty()) {
+      auto& [node, next] = stack.back();
+      if (next < dep_first[node + 1]) {
+        const uint32_t dep = deps[next++];
+        if (!mark[dep]) {
+          mark[dep] = 1;
+          stack.emplace_back(dep, dep_first[dep]);
+        }
+        continue;
+      }
+      mark[node] = 2;
+      ordered.push_back(nodes_[node]);
+      stack.pop_back();
+    }
+  }
+  nodes_.swap(ordered);
+}
+
+uint32_t ActivityPropagator::AddRefs(const cdm::LibBoolFuncExpr& function, const cdm::Cell& cell,
+                                     bool& reads_state) {
+  const cdm::LibCell* lib_cell = cell.GetRefLibCell();
+  // Gathered apart: a state met on the way adds refs of its own first.
+  std::vector<Ref> refs;
+  for (const cdm::LibPort* port : function.GetFuncPorts()) {
+    Ref ref = 0;
+    if (const cdm::Pin* pin = PinOfPort(cell, port)) {
+      const cdm::Net* net = pin->GetNet();
+      ref = net && net->FlatNetId() < nets_->size() ? net->FlatNetId() : 0;
+    } else if (const cdm::LibSequential* sequential = lib_cell->GetSequentialFromOutputPort(port)) {
+      reads_state = true;
+      ref = kState | StateIndex(cell, sequential);
+      if (port != sequential->first) ref |= kComplement;
+    }
+    refs.push_back(ref);
+  }
+  const uint32_t first = static_cast<uint32_t>(refs_.size());
+  refs_.insert(refs_.end(), refs.begin(), refs.end());
+  return first;
+}
+
+uint32_t ActivityPropagator::StateIndex(const cdm::Cell& cell,
+                                        const cdm::LibSequential* sequential) {
+  const auto& groups = cell.GetRefLibCell()->GetSequentials();
+  auto found = first_state_.find(&cell);
+  if (found == first_state_.end()) {
+    // All the cell's states exist before any of their refs are made, so
+    // that a next state reading a state of the cell finds it.
+    const uint32_t first = static_cast<uint32_t>(states_.size());
+    found = first_state_.emplace(&cell, first).first;
+    states_.resize(first + groups.size());
+    for (size_t g = 0; g < groups.size(); ++g) {
+      bool unused = false;
+      const uint32_t data = AddRefs(groups[g]->data, cell, unused);
+      const uint32_t clock = AddRefs(groups[g]->clock, cell, unused);
+      State& state = states_[first + g];
+      state.data = &groups[g]->data;
+      state.clock = &groups[g]->clock;
+      state.data_first = data;
+      state.data_count = static_cast<uint32_t>(groups[g]->data.GetFuncPorts().size());
+      state.clock_first = clock;
+      state.clock_count = static_cast<uint32_t>(groups[g]->clock.GetFuncPorts().size());
+    }
+  }
+  size_t g = 0;
+  while (g < groups.size() && groups[g].get() != sequential) ++g;
+  return found->second + static_cast<uint32_t>(g);
+}
+
+bool ActivityPropagator::Pass() {
+  std::vector<NetActivity>& nets = *nets_;
+  const ActivitySetting& registers = annotations_.Registers();
+  bool changed = false;
+  for (const Node& node : nodes_) {
+    // After the first pass only what an input of changed.
+    if (pass_ > 0 && !Dirty(node.first, node.count)) continue;
+    NetActivity activity;
+    if (!node.function) {
+      // A cell nothing is known of inside drives like a primary input.
+      activity = NetActivity{0.0, 0.5, ActivityOrigin::kDefault};
+      Apply(annotations_.Inputs(), activity);
+      activity.origin = ActivityOrigin::kDefault;
+    } else {
+      activity = Evaluate(*node.function, node.first, node.count, kIndex);
+      if (node.reads_state && (registers.rate || registers.probability)) Apply(registers, activity);
+    }
+    if (override_of_[node.net] >= 0) Apply(overrides_[override_of_[node.net]], activity);
+    if (pass_ >= kDampFrom) {
+      // Still moving: a loop that swings (an odd ring) settles halfway.
+      activity.rate = 0.5 * (activity.rate + nets[node.net].rate);
+      activity.probability = 0.5 * (activity.probability + nets[node.net].probability);
+    }
+    if (Differs(activity, nets[node.net])) {
+      changed = true;
+      changed_at_[node.net] = pass_;
+    }
+    nets[node.net] = activity;
   }
   return changed;
 }
 
-NetActivity ActivityPropagator::CellOutput(const cdm::Pin* pin) {
-  const cdm::Cell* cell = pin->GetCell();
-  const auto* port = dynamic_cast<const cdm::LibPort*>(pin->GetPort());
-  const cdm::LibBoolFuncExpr* function = port ? port->GetFunction() : nullptr;
-  if (!function || function->IsEmpty() || !cell->GetRefLibCell()) {
-    // A cell nothing is known of inside drives like a primary input.
-    NetActivity activity{0.0, 0.5, ActivityOrigin::kDefault};
-    Apply(annotations_.Inputs(), activity);
-    activity.origin = ActivityOrigin::kDefault;
-    return activity;
+bool ActivityPropagator::Dirty(uint32_t first, uint32_t count) {
+  for (uint32_t i = first; i < first + count; ++i) {
+    const Ref ref = refs_[i];
+    if (ref & kState) {
+      const uint32_t index = ref & kIndex;
+      Refresh(index);
+      if (states_[index].changed_at >= pass_ - 1) return true;
+    } else if (changed_at_[ref] >= pass_ - 1) {
+      return true;
+    }
   }
-  read_state_ = false;
-  NetActivity activity = Evaluate(*function, *cell, nullptr);
-  const ActivitySetting& registers = annotations_.Registers();
-  if (read_state_ && (registers.rate || registers.probability)) Apply(registers, activity);
-  return activity;
+  return false;
 }
 
-NetActivity ActivityPropagator::Evaluate(const cdm::LibBoolFuncExpr& function,
-                                         const cdm::Cell& cell, const cdm::LibSequential* self) {
-  const std::vector<cdm::LibPort*>& ports = function.GetFuncPorts();
-  const cdm::LibCell* lib_cell = cell.GetRefLibCell();
-  std::vector<double> probability(ports.size(), 0.5);
-  std::vector<double> density(ports.size(), 0.0);
-  for (size_t i = 0; i < ports.size(); ++i) {
-    NetActivity input{0.0, 0.5, ActivityOrigin::kUnknown};
-    if (const cdm::Pin* pin = PinOfPort(cell, ports[i])) {
-      input = OfPin(pin);
-    } else if (const cdm::LibSequential* sequential =
-                   lib_cell->GetSequentialFromOutputPort(ports[i])) {
-      read_state_ = true;
-      input = StateOf(cell, sequential);
-      // The state holding itself makes no transition of its own.
-      if (sequential == self) input.rate = 0.0;
-      if (ports[i] != sequential->first) input.probability = 1.0 - input.probability;
-    }
-    probability[i] = input.probability;
-    density[i] = input.rate;
+NetActivity ActivityPropagator::Input(Ref ref, uint32_t self) {
+  if (!(ref & kState)) return (*nets_)[ref];
+  const uint32_t index = ref & kIndex;
+  NetActivity input = states_[index].value;
+  // The state holding itself makes no transition of its own.
+  if (index == self) input.rate = 0.0;
+  if (ref & kComplement) input.probability = 1.0 - input.probability;
+  return input;
+}
+
+NetActivity ActivityPropagator::Evaluate(const cdm::LibBoolFuncExpr& function, uint32_t first,
+                                         uint32_t count, uint32_t self) {
+  // States first: working one out evaluates other functions, which use
+  // the scratch arrays too.
+  for (uint32_t i = first; i < first + count; ++i)
+    if ((refs_[i] & kState) && (refs_[i] & kIndex) != self) Refresh(refs_[i] & kIndex);
+  probability_.resize(count);
+  density_.resize(count);
+  for (uint32_t i = 0; i < count; ++i) {
+    const NetActivity input = Input(refs_[first + i], self);
+    probability_[i] = input.probability;
+    density_[i] = input.rate;
   }
   NetActivity out{0.0, 0.5, ActivityOrigin::kPropagated};
-  FunctionActivity(Table(function), probability, density, out.probability, out.rate);
+  FunctionActivity(Table(function), probability_, density_, out.probability, out.rate);
   return out;
 }
 
-NetActivity ActivityPropagator::StateOf(const cdm::Cell& cell,
-                                        const cdm::LibSequential* sequential) {
-  const auto& groups = cell.GetRefLibCell()->GetSequentials();
-  std::vector<State>& states = states_[&cell];
-  if (states.empty()) {
-    states.resize(groups.size());
-    for (State& state : states) state.first = NetActivity{0.0, 0.5, ActivityOrigin::kPropagated};
-  }
-  size_t index = 0;
-  while (index < groups.size() && groups[index].get() != sequential) ++index;
-  if (index == groups.size()) return NetActivity{0.0, 0.5, ActivityOrigin::kPropagated};
-  State& state = states[index];
-  if (state.pass == pass_ || state.busy) return state.first;
+void ActivityPropagator::Refresh(uint32_t index) {
+  State& state = states_[index];
+  if (state.pass == pass_ || state.busy) return;
+  state.pass = pass_;  // before the inputs: a next state may read the state
+  const bool dirty = pass_ == 0 || Dirty(state.data_first, state.data_count) ||
+                     Dirty(state.clock_first, state.clock_count);
+  if (!dirty) return;
   state.busy = true;
-  const NetActivity data = Evaluate(sequential->data, cell, sequential);
-  const NetActivity clock = Evaluate(sequential->clock, cell, sequential);
+  const NetActivity data = Evaluate(*state.data, state.data_first, state.data_count, index);
+  const NetActivity clock = Evaluate(*state.clock, state.clock_first, state.clock_count, index);
+  state.busy = false;
   // One active edge a clock period: the state changes at most that often,
   // and with data independent from cycle to cycle 2p(1-p) of the times.
   const double edges = clock.rate / 2.0;
   const double p = data.probability;
-  state.first =
-      NetActivity{std::min(data.rate, 2.0 * p * (1.0 - p) * edges), p, ActivityOrigin::kPropagated};
-  state.pass = pass_;
-  state.busy = false;
-  return state.first;
-}
-
-NetActivity ActivityPropagator::OfPin(const cdm::Pin* pin) const {
-  const cdm::Net* net = pin->GetNet();
-  const uint32_t id = net ? net->FlatNetId() : 0;
-  if (id == 0 || id >= nets_->size()) return NetActivity{0.0, 0.5, ActivityOrigin::kUnknown};
-  return (*nets_)[id];
+  const NetActivity value{std::min(data.rate, 2.0 * p * (1.0 - p) * edges), p,
+                          ActivityOrigin::kPropagated};
+  if (Differs(value, state.value)) state.changed_at = pass_;
+  state.value = value;
 }
 
 const std::vector<bool>& ActivityPropagator::Table(const cdm::LibBoolFuncExpr& function) {

@@ -8,7 +8,6 @@
 
 #include <cstdint>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "power/ActivityAnnotations.h"
@@ -39,25 +38,52 @@ class ActivityPropagator {
 
   // The most passes a Run makes.
   static constexpr int kMaxPasses = 50;
+  // From this pass on, a figure still moving goes halfway to its new value.
+  static constexpr int kDampFrom = 8;
 
  private:
-  struct Override {
-    ActivitySetting setting;
-    bool set = false;
+  // An input of a function: a flat net (0 for none: probability 0.5, no
+  // transitions), or a register's state, maybe its complement.
+  using Ref = uint32_t;
+  static constexpr Ref kState = 1u << 31;
+  static constexpr Ref kComplement = 1u << 30;
+  static constexpr Ref kIndex = kComplement - 1;
+
+  // A net worked out from its driver's function; a null function stands
+  // for a cell nothing is known of.
+  struct Node {
+    uint32_t net = 0;
+    const cdm::LibBoolFuncExpr* function = nullptr;
+    uint32_t first = 0, count = 0;  // refs_
+    bool reads_state = false;
   };
+  // The state of one ff or latch group of one instance: its first state
+  // port (the second is the complement).
   struct State {
-    NetActivity first;  // of the group's first state port
-    int pass = -1;      // the pass it was worked out in
-    bool busy = false;  // being worked out (a next state that reads itself)
+    const cdm::LibBoolFuncExpr* data = nullptr;
+    const cdm::LibBoolFuncExpr* clock = nullptr;
+    uint32_t data_first = 0, data_count = 0, clock_first = 0, clock_count = 0;
+    NetActivity value{0.0, 0.5, ActivityOrigin::kPropagated};
+    int pass = -1;        // the pass it was last looked at in
+    int changed_at = -1;  // the pass it last changed in
+    bool busy = false;    // being worked out
   };
 
   void Seed();
+  void Plan();
+  // Puts the nodes in an order where each comes after what it reads,
+  // registers included, loops cut.
+  void Order();
+  // Adds the refs of `function`'s ports on `cell`, one a port in order;
+  // returns the first. Sets `reads_state` when one is a state.
+  uint32_t AddRefs(const cdm::LibBoolFuncExpr& function, const cdm::Cell& cell, bool& reads_state);
+  uint32_t StateIndex(const cdm::Cell& cell, const cdm::LibSequential* sequential);
   bool Pass();
-  NetActivity CellOutput(const cdm::Pin* pin);
-  NetActivity Evaluate(const cdm::LibBoolFuncExpr& function, const cdm::Cell& cell,
-                       const cdm::LibSequential* self);
-  NetActivity StateOf(const cdm::Cell& cell, const cdm::LibSequential* sequential);
-  NetActivity OfPin(const cdm::Pin* pin) const;
+  bool Dirty(uint32_t first, uint32_t count);
+  NetActivity Evaluate(const cdm::LibBoolFuncExpr& function, uint32_t first, uint32_t count,
+                       uint32_t self);
+  NetActivity Input(Ref ref, uint32_t self);
+  void Refresh(uint32_t index);
   double Rate(const RateSetting& rate) const;
   void Apply(const ActivitySetting& setting, NetActivity& activity) const;
   const std::vector<bool>& Table(const cdm::LibBoolFuncExpr& function);
@@ -67,13 +93,17 @@ class ActivityPropagator {
   std::vector<NetActivity>* nets_ = nullptr;
   std::vector<uint8_t> fixed_;        // per flat net: set by a seed, not worked out
   std::vector<int32_t> override_of_;  // per flat net: index into overrides_, -1 for none
+  std::vector<int32_t> changed_at_;   // per flat net: the pass it last changed in
   std::vector<ActivitySetting> overrides_;
-  double fastest_period_ = 0.0;  // seconds; 0 without clocks
+  std::vector<Node> nodes_;  // inputs first
+  std::vector<Ref> refs_;
+  std::vector<State> states_;
+  std::unordered_map<const cdm::Cell*, uint32_t> first_state_;  // index of a cell's first group
+  double fastest_period_ = 0.0;                                 // seconds; 0 without clocks
   int pass_ = 0;
-  bool read_state_ = false;  // the function evaluated read a register's state
   int passes_ = 0;
   std::unordered_map<const cdm::LibBoolFuncExpr*, std::vector<bool>> tables_;
-  std::unordered_map<const cdm::Cell*, std::vector<State>> states_;
+  std::vector<double> probability_, density_;  // scratch
 };
 
 }  // namespace power

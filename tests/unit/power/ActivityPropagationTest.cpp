@@ -187,4 +187,23 @@ endmodule)",
   EXPECT_LE(Net("y").probability, 1.0);
 }
 
+TEST_F(ActivityPropagationTest, RegistersAreWorkedOutAfterTheirDataInOnePass) {
+  LoadDesign(R"(module act_pipe(clk, d, q);
+  input clk, d; output q; wire q1, q2, n1, n2;
+  A_DFF r1(.D(d), .CK(clk), .Q(q1));
+  A_INV i1(.A(q1), .Z(n1));
+  A_DFF r2(.D(n1), .CK(clk), .Q(q2));
+  A_INV i2(.A(q2), .Z(n2));
+  A_DFF r3(.D(n2), .CK(clk), .Q(q));
+endmodule)",
+             "act_pipe");
+  Clock("clk", 10e-9f);
+  Annotate("d", 4e7, 0.25);
+  // Each stage: min(4e7, 2 p (1 - p) 1e8) with p 0.25, then 0.75, 0.25.
+  EXPECT_RATE(Net("q").rate, 3.75e7);
+  EXPECT_NEAR(Net("q").probability, 0.25, 1e-9);
+  // One pass works it out, a second finds nothing moved.
+  EXPECT_EQ(store_->LastPasses(), 2);
+}
+
 }  // namespace
