@@ -10,9 +10,14 @@
 # The first report_net brings timing up to date (graph, levels, slews): its
 # time is shown apart. Each line shows wall time and processor time (user
 # and system, in steps of 10 ms).
-#   bench/run_connectivity_reports.sh BUILD_DIR [SIZES]
+# With -sta, the sta of Debian's opensta package times its report_net over
+# the flat netlists beside ours: it takes one net a command, so it runs in
+# a loop over every net, under the library's default wire-load model.
+#   bench/run_connectivity_reports.sh [-sta] BUILD_DIR [SIZES]
 set -e
-build=${1:?usage: run_connectivity_reports.sh BUILD_DIR [SIZES]}
+with_sta=no
+if [ "$1" = "-sta" ]; then with_sta=yes; shift; fi
+build=${1:?usage: run_connectivity_reports.sh [-sta] BUILD_DIR [SIZES]}
 sizes=${2:-"10000 100000 1000000"}
 here=$(cd "$(dirname "$0")" && pwd)
 lib=$here/../tests/data/sky130hd_tt.lib.gz
@@ -80,4 +85,41 @@ timed "get_fanin_pins -level 10 out\[0\]" {redirect /dev/null {get_fanin_pins -l
 TCL
     "$build/kelvo" "$script" 2>/dev/null
   done
+  if [ $with_sta = yes ]; then
+    # Plain text: this sta does not read gzipped Liberty.
+    plain=$work/sky130hd_tt.lib
+    [ -f "$plain" ] || gunzip -c "$lib" >"$plain"
+    cat >"$script.sta" <<TCL
+read_liberty $plain
+read_verilog $flat
+link_design top
+set_wire_load_model -name Small
+proc cpu {} {
+  set f [open /proc/self/stat]
+  set fields [split [lindex [split [read \$f] ")"] end]]
+  close \$f
+  return [expr {([lindex \$fields 12] + [lindex \$fields 13]) / 100.0}]
+}
+proc timed {label body} {
+  set c [cpu]
+  set us [lindex [time {uplevel 1 \$body}] 0]
+  puts [format "%-5s %8d  %-36s %8.3f s wall %8.2f s cpu" sta $n \$label [expr {\$us / 1e6}] \
+      [expr {[cpu] - \$c}]]
+}
+set nets {}
+foreach net [get_nets *] { lappend nets [get_full_name \$net] }
+timed "report_net (per net)" {
+  sta::redirect_file_begin /dev/null
+  foreach net \$nets { report_net \$net }
+  sta::redirect_file_end
+}
+timed "report_net -connections (per net)" {
+  sta::redirect_file_begin /dev/null
+  foreach net \$nets { report_net -connections \$net }
+  sta::redirect_file_end
+}
+exit
+TCL
+    sta -no_init -no_splash "$script.sta"
+  fi
 done
