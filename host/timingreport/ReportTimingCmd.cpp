@@ -19,6 +19,7 @@
 #include "search/Timer.h"
 #include "search/TimingSearch.h"
 #include "timingreport/PathReport.h"
+#include "timingreport/TextTable.h"
 #include "timingreport/TimerAccess.h"
 
 namespace sta {
@@ -33,41 +34,20 @@ void PrintLines(const std::vector<std::string>& lines) {
 // -path_type summary: one line per path; end: one line per path end.
 void PrintTable(PathReport& report, const std::vector<TimingPath>& paths, bool ends) {
   const ReportNumbers& numbers = report.Numbers();
-  std::vector<std::vector<std::string>> rows;
+  TextTable table(
+      ends ? std::vector<std::string>{"Endpoint", "Path Delay", "Path Required", "Slack"}
+           : std::vector<std::string>{"Startpoint", "Endpoint", "Slack"},
+      ends ? std::vector<bool>{false, true, true, true} : std::vector<bool>{false, false, true});
   for (const TimingPath& path : paths) {
     const PathEnd& end = *path.end;
     if (ends) {
-      rows.push_back({report.EndPin(end), numbers.Time(path.arrival), numbers.Time(end.required),
-                      numbers.Time(path.slack)});
+      table.Add({report.EndPin(end), numbers.Time(path.arrival), numbers.Time(end.required),
+                 numbers.Time(path.slack)});
     } else {
-      rows.push_back({report.StartPin(path), report.EndPin(end), numbers.Time(path.slack)});
+      table.Add({report.StartPin(path), report.EndPin(end), numbers.Time(path.slack)});
     }
   }
-  const std::vector<std::string> heading =
-      ends ? std::vector<std::string>{"Endpoint", "Path Delay", "Path Required", "Slack"}
-           : std::vector<std::string>{"Startpoint", "Endpoint", "Slack"};
-  // Names left-aligned, numbers right-aligned, each column as wide as its
-  // longest entry and two blanks apart.
-  const size_t names = ends ? 1 : 2;
-  std::vector<size_t> width(heading.size());
-  for (size_t c = 0; c < heading.size(); ++c) {
-    width[c] = heading[c].size();
-    for (const auto& row : rows) width[c] = std::max(width[c], row[c].size());
-  }
-  auto line_of = [&](const std::vector<std::string>& cells) {
-    std::string line;
-    for (size_t c = 0; c < cells.size(); ++c) {
-      if (c) line += "  ";
-      line += c < names ? PadRight(cells[c], width[c]) : PadLeft(cells[c], width[c]);
-    }
-    while (!line.empty() && line.back() == ' ') line.pop_back();
-    return line;
-  };
-  msg::Print_Result(line_of(heading).c_str());
-  size_t total = 0;
-  for (size_t w : width) total += w;
-  msg::Print_Result(std::string(total + 2 * (width.size() - 1), '-').c_str());
-  for (const auto& row : rows) msg::Print_Result(line_of(row).c_str());
+  table.Print();
 }
 
 void PrintPaths(PathReport& report, const std::vector<TimingPath>& paths,
