@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # Runs one golden case: the shell executes SCRIPT, and its standard output,
-# with the text behind every "Date ... :" label masked, must equal EXPECTED.
+# with the text behind every "Date ... :" label masked (also "*Date ... :" of
+# the reports whose banner lines begin with "*"), must equal EXPECTED.
 # The shell's exit status is appended as a last line "exit: N" so that a case
 # also proves whether the script ran to its end. Standard error may hold the
 # script's own error messages, but a report of a sanitizer (a build with
 # -DKELVO_SANITIZE=ON) fails the case whatever the output.
 set -u
 kelvo=$1 script=$2 expected=$3
-mask() { sed -E 's/^(Date *:).*$/\1 <date>/'; }
+mask() { sed -E 's/^(\*?Date *:).*$/\1 <date>/'; }
 # The script is named relative to the data folder, so that the file names
 # that messages quote are the same in every clone.
 script=$(realpath --relative-to=. "$script")
