@@ -25,7 +25,11 @@ LibBoolFuncExpr::LibBoolFuncExpr(std::string text, std::vector<Node> nodes, int 
 
 std::vector<bool> LibBoolFuncExpr::TruthTable() const {
   std::vector<bool> table;
-  if (root_ < 0 || ports_.size() > 16) return table;
+  // Each row evaluates the whole tree: a huge function (a hostile file's)
+  // is not tabulated, as one of more than 16 ports is not.
+  constexpr size_t kMaxEvaluations = size_t{1} << 26;
+  if (root_ < 0 || ports_.size() > 16 || (nodes_.size() << ports_.size()) > kMaxEvaluations)
+    return table;
   const size_t rows = size_t{1} << ports_.size();
   table.reserve(rows);
   for (size_t row = 0; row < rows; ++row) {

@@ -38,7 +38,8 @@ class LibBoolFuncExpr {
     return root_ >= 0 && Eval(root_, value_of);
   }
   // The function as a truth table over GetFuncPorts (bit i of the row
-  // number is port i); empty for more than 16 ports.
+  // number is port i); empty for more than 16 ports, or when the rows times
+  // the operators pass 2^26.
   std::vector<bool> TruthTable() const;
 
   const std::vector<Node>& Nodes() const { return nodes_; }

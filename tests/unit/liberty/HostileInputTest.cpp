@@ -103,6 +103,18 @@ TEST(HostileInput, LongChainsStayShallowAndKeepTheirMeaning) {
       [](const cdm::LibPort* port) { return port->Name() == "P199" ? 1 : 0; }));
   EXPECT_FALSE(FunctionOfY(many)->Evaluate([](const cdm::LibPort*) { return 0; }));
 
+  // Sixteen ports tabulate; sixteen ports over a huge tree do not.
+  std::string sixteen = "P0";
+  for (int i = 1; i < 16; ++i) sixteen += " & P" + std::to_string(i);
+  auto tabulated = Parse(root, CellWithFunction(sixteen, 16));
+  ASSERT_TRUE(tabulated.lib) << tabulated.error;
+  EXPECT_EQ(FunctionOfY(tabulated)->TruthTable().size(), 65536u);
+  std::string huge = sixteen;
+  for (int i = 0; i < 2000; ++i) huge += " & " + sixteen;
+  auto untabulated = Parse(root, CellWithFunction(huge, 16));
+  ASSERT_TRUE(untabulated.lib) << untabulated.error;
+  EXPECT_TRUE(FunctionOfY(untabulated)->TruthTable().empty());
+
   // Exclusive or keeps its parity over an odd and an even count.
   auto xor3 = Parse(root, CellWithFunction("A ^ A ^ A"));
   ASSERT_TRUE(xor3.lib) << xor3.error;
