@@ -39,15 +39,15 @@ size_t CharLength(std::string_view text, size_t at) {
 
 }  // namespace
 
-std::string Excerpt(std::string_view text) {
-  if (text.size() <= kExcerptBytes) return std::string(text);
-  size_t cut = kExcerptBytes - 20;
+std::string Excerpt(std::string_view text, size_t longest) {
+  if (text.size() <= longest) return std::string(text);
+  size_t cut = longest > 20 ? longest - 20 : longest;
   // Back up to the start of a character.
   while (cut > 0 && (static_cast<unsigned char>(text[cut]) & 0xc0) == 0x80) --cut;
   return std::string(text.substr(0, cut)) + "... (" + std::to_string(text.size()) + " bytes)";
 }
 
-std::string CutQuotes(std::string_view message) {
+std::string CutQuotes(std::string_view message, size_t longest) {
   std::string cut;
   size_t at = 0;
   while (at < message.size()) {
@@ -63,7 +63,7 @@ std::string CutQuotes(std::string_view message) {
     size_t close = message.find(c, at + 1);
     if (close == std::string_view::npos) close = message.size();
     cut += c;
-    cut += Excerpt(message.substr(at + 1, close - at - 1));
+    cut += Excerpt(message.substr(at + 1, close - at - 1), longest);
     if (close < message.size()) cut += c;
     at = close + 1;
   }

@@ -11,14 +11,14 @@ namespace msg {
 // The longest token a message quotes whole.
 constexpr size_t kExcerptBytes = 80;
 
-// `text` when it is at most kExcerptBytes long; else its first bytes (cut at a
-// character boundary), "...", and its length: "AAAA... (140000 bytes)".
-std::string Excerpt(std::string_view text);
+// `text` when it is at most `longest` bytes long; else its first bytes (cut
+// at a character boundary), "...", and its length: "AAAA... (140000 bytes)".
+std::string Excerpt(std::string_view text, size_t longest = kExcerptBytes);
 
 // `message` with every quoted part ('...' or "...", the quote opening after a
-// blank, a bracket or the start) longer than kExcerptBytes cut by Excerpt;
-// a quote that is never closed runs to the end.
-std::string CutQuotes(std::string_view message);
+// blank, a bracket or the start) longer than `longest` cut by Excerpt; a
+// quote that is never closed runs to the end.
+std::string CutQuotes(std::string_view message, size_t longest = kExcerptBytes);
 
 // `text` as valid UTF-8 without NUL bytes, what Tcl needs of a string: each
 // byte that is not part of a valid character, and each NUL, is written as

@@ -30,6 +30,10 @@ TEST(SafeText, CutQuotesShortensOnlyLongQuotedParts) {
   const std::string prose = "the cell's " + big + " is fine";
   EXPECT_EQ(msg::CutQuotes(prose), prose);
   EXPECT_EQ(msg::CutQuotes("found '''"), "found '''");
+  // A reader that quotes names allows longer ones.
+  EXPECT_EQ(msg::CutQuotes("no cell '" + big + "'", 1000), "no cell '" + big + "'");
+  EXPECT_EQ(msg::CutQuotes("no cell '" + big + "z'", 1000),
+            "no cell '" + std::string(980, 'z') + "... (1001 bytes)'");
 }
 
 TEST(SafeText, ValidTextEscapesWhatIsNotUtf8AndNul) {
