@@ -11,10 +11,15 @@
 #include "hostapi/cmd/CommonCmd.h"
 #include "io/FileLoader.h"
 #include "msg/ResultChannel.h"
+#include "msg/SafeText.h"
 #include "sdc/SdcSource.h"
 
 namespace sta::sdc {
 namespace {
+
+// The longest quoted part of an error shown whole: room for a long
+// hierarchical name.
+constexpr size_t kQuotedBytes = 1000;
 
 // Follows the line of the command that runs, also inside loop bodies and
 // other nested scripts of the file: each command entered asks the
@@ -165,7 +170,7 @@ class ReadSdcCmd : public CommonCmd {
       if (Tcl_ParseCommand(interp, at, static_cast<int>(end - at), 0, &parse) != TCL_OK) {
         const std::string message = Tcl_GetStringResult(interp);
         advance(parse.commandStart ? parse.commandStart : at);
-        error = place(line) + message;
+        error = place(line) + msg::CutQuotes(message, kQuotedBytes);
         Tcl_FreeParse(&parse);
         return false;
       }
@@ -187,8 +192,9 @@ class ReadSdcCmd : public CommonCmd {
         const int code = Tcl_EvalEx(interp, command, size, 0);
         if (code == TCL_ERROR) {
           const int inner = tracker.line > 0 ? tracker.line : Tcl_GetErrorLine(interp);
+          // A name the file holds may be megabytes long.
           error = place(command_line + (inner > 1 ? inner - 1 : 0)) +
-                  Stripped(Tcl_GetStringResult(interp));
+                  msg::CutQuotes(Stripped(Tcl_GetStringResult(interp)), kQuotedBytes);
           return false;
         }
         if (code == TCL_RETURN) break;  // as in a sourced file
