@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer harnesses (clang, with the address and
 # undefined-behaviour sanitizers) in build-fuzz/ and runs each for SECONDS.
-#   scripts/fuzz.sh [SECONDS] [liberty|verilog|loader ...]
+#   scripts/fuzz.sh [SECONDS] [liberty|verilog|loader|sdc ...]
 # SECONDS defaults to 60 (the smoke run of CI); all harnesses when none is
 # named. A long run: scripts/fuzz.sh 3600 liberty (nice it on a shared
 # machine). With FUZZ_KEEP_GOING=1 a harness goes on after a finding.
@@ -16,7 +16,7 @@ KELVO_FUZZ=1 ./scripts/setup.sh
 seconds=${1:-60}
 if [ $# -gt 0 ]; then shift; fi
 harnesses=("$@")
-if [ ${#harnesses[@]} -eq 0 ]; then harnesses=(liberty verilog loader); fi
+if [ ${#harnesses[@]} -eq 0 ]; then harnesses=(liberty verilog loader sdc); fi
 
 launcher=()
 if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
@@ -25,7 +25,7 @@ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=
 cmake --build build-fuzz -j"$(nproc)" --target "${harnesses[@]/#/fuzz_}"
 
 options=(-max_total_time="$seconds" -max_len=65536 -timeout=20 -rss_limit_mb=2048
-  -print_final_stats=1)
+  -print_final_stats=1 -close_fd_mask=1)
 if [ "${FUZZ_KEEP_GOING:-0}" = 1 ]; then
   options+=(-fork=1 -ignore_crashes=1 -ignore_timeouts=1 -ignore_ooms=1)
 fi
@@ -33,7 +33,7 @@ status=0
 for name in "${harnesses[@]}"; do
   corpus=build-fuzz/corpus/$name
   artifacts=build-fuzz/artifacts/$name
-  mkdir -p "$corpus" "$artifacts"
+  mkdir -p "$corpus" "$artifacts" "tests/fuzz/regressions/$name"
   grep -v '^#' "tests/fuzz/$name.seeds" | while read -r seed; do
     cp "tests/data/$seed" "$corpus/seed_$(basename "$seed")"
   done

@@ -14,5 +14,6 @@ namespace fuzz {
 std::string FuzzLiberty(std::string_view input);
 std::string FuzzVerilog(std::string_view input);
 std::string FuzzLoader(std::string_view input);
+std::string FuzzSdc(std::string_view input);
 
 }  // namespace fuzz

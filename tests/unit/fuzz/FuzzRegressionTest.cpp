@@ -59,5 +59,8 @@ TEST(FuzzRegression, Verilog) {
 TEST(FuzzRegression, Loader) {
   RunAll("loader", fuzz::FuzzLoader);
 }
+TEST(FuzzRegression, Sdc) {
+  RunAll("sdc", fuzz::FuzzSdc);
+}
 
 }  // namespace
