@@ -496,7 +496,8 @@ void SdcWriter::WriteNetsAndCells() {
   auto nets = store_.NetRecords();
   std::sort(nets.begin(), nets.end(),
             [](const auto& a, const auto& b) { return a.second->name < b.second->name; });
-  for (auto& [net, record] : nets) {
+  for (auto& entry : nets) {
+    const auto& record = entry.second;  // a lambda below takes it: no structured binding
     const std::string object = " [get_nets " + Quote(record->name) + "]";
     WritePair(record->wire_cap, "-min", "-max", [&](const std::string& flag, float value) {
       out_ << "set_load" << flag << (record->subtract_pin_load ? " -subtract_pin_load" : "") << " "
