@@ -111,8 +111,7 @@ NetlistBuilder::Symbol* NetlistBuilder::AddSymbol(std::string_view name, const R
 bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   std::string name(header.name);
   if (root_->FindDesign(name)) return Fail("module '" + name + "' is already loaded");
-  for (const Finished& done : done_)
-    if (done.design->Name() == name) return Fail("module '" + name + "' is defined twice");
+  if (done_names_.count(name)) return Fail("module '" + name + "' is defined twice");
   design_ = std::make_unique<cdm::Design>(root_->Intern(name), owner_);
   cdm::Attribute line;
   line.id = cdm::AttrId::kSourceLine;
@@ -406,6 +405,7 @@ bool NetlistBuilder::FinishNets() {
 
 bool NetlistBuilder::EndModule(uint32_t) {
   if (!FinishPorts() || !FinishNets()) return false;
+  done_names_.insert(design_->Name());
   done_.push_back(Finished{std::move(design_), std::move(draft_)});
   draft_ = cdm::ModuleDraft();
   return true;
@@ -422,6 +422,7 @@ bool NetlistBuilder::Commit(std::vector<std::string>& names, std::string& error)
   for (Finished& done : done_)
     if (!cdm::NetlistEditor::Fill(root_, done.design->GetNetlist(), std::move(done.draft), error)) {
       done_.clear();
+      done_names_.clear();
       return false;
     }
   names.clear();
@@ -430,6 +431,7 @@ bool NetlistBuilder::Commit(std::vector<std::string>& names, std::string& error)
     root_->AddDesign(std::move(done.design));
   }
   done_.clear();
+  done_names_.clear();
   return true;
 }
 

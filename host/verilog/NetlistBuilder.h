@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "db/NameIndex.h"
@@ -86,6 +87,7 @@ class NetlistBuilder : public StatementSink {
     cdm::ModuleDraft draft;
   };
   std::vector<Finished> done_;
+  std::unordered_set<std::string_view> done_names_;  // interned by the root
 
   // The module being read.
   std::unique_ptr<cdm::Design> design_;
