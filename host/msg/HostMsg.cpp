@@ -2,8 +2,8 @@
 
 #include <cstdio>
 
-#include "msg/ResultChannel.h"
 #include "msg/MessageBook.h"
+#include "msg/ResultChannel.h"
 #include "msg/SessionLog.h"
 
 namespace msg {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "msg/ResultChannel.h"
 #include "msg/HostMsg.h"
 #include "msg/MsgCatalogue.h"
+#include "msg/ResultChannel.h"
 
 namespace msg {
 namespace {
