@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer harnesses (clang, with the address and
 # undefined-behaviour sanitizers) in build-fuzz/ and runs each for SECONDS.
-#   scripts/fuzz.sh [SECONDS] [liberty|verilog|loader|sdc ...]
+#   scripts/fuzz.sh [SECONDS] [liberty|verilog|loader|sdc|spef|saif|vcd ...]
 # SECONDS defaults to 60 (the smoke run of CI); all harnesses when none is
 # named. A long run: scripts/fuzz.sh 3600 liberty (nice it on a shared
 # machine). With FUZZ_KEEP_GOING=1 a harness goes on after a finding.
@@ -16,7 +16,7 @@ KELVO_FUZZ=1 ./scripts/setup.sh
 seconds=${1:-60}
 if [ $# -gt 0 ]; then shift; fi
 harnesses=("$@")
-if [ ${#harnesses[@]} -eq 0 ]; then harnesses=(liberty verilog loader sdc); fi
+if [ ${#harnesses[@]} -eq 0 ]; then harnesses=(liberty verilog loader sdc spef saif vcd); fi
 
 launcher=()
 if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi

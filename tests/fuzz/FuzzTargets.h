@@ -15,5 +15,8 @@ std::string FuzzLiberty(std::string_view input);
 std::string FuzzVerilog(std::string_view input);
 std::string FuzzLoader(std::string_view input);
 std::string FuzzSdc(std::string_view input);
+std::string FuzzSpef(std::string_view input);
+std::string FuzzSaif(std::string_view input);
+std::string FuzzVcd(std::string_view input);
 
 }  // namespace fuzz

@@ -62,5 +62,14 @@ TEST(FuzzRegression, Loader) {
 TEST(FuzzRegression, Sdc) {
   RunAll("sdc", fuzz::FuzzSdc);
 }
+TEST(FuzzRegression, Spef) {
+  RunAll("spef", fuzz::FuzzSpef);
+}
+TEST(FuzzRegression, Saif) {
+  RunAll("saif", fuzz::FuzzSaif);
+}
+TEST(FuzzRegression, Vcd) {
+  RunAll("vcd", fuzz::FuzzVcd);
+}
 
 }  // namespace
