@@ -5,9 +5,13 @@
 //            of as many middles as needed;
 //   modules  INSTANCES/1000 distinct modules of 1000 gates, each used once;
 //   reused   one module of 1000 gates used INSTANCES/1000 times;
-//   bignet   one inverter driving a net of INSTANCES-1 inverters.
+//   bignet   one inverter driving a net of INSTANCES-1 inverters;
+//   ports    a top with INSTANCES scalar input ports, each declared on a
+//            line of its own and driving an inverter;
+//   tiny     INSTANCES distinct modules of one inverter, each used once
+//            (with modules: more modules at the same gate count).
 //
-//   kelvo_gen_netlist flat|hier|modules|reused|bignet INSTANCES FILE [WIDTH]
+//   kelvo_gen_netlist flat|hier|modules|reused|bignet|ports|tiny INSTANCES FILE [WIDTH]
 //
 // WIDTH (16 unless given) is the width of the in and out buses, so that a
 // netlist can have thousands of ports.
@@ -75,13 +79,36 @@ void WriteBigNet(FILE* out, long instances) {
   std::fprintf(out, "  assign y = y1;\nendmodule\n");
 }
 
+void WritePorts(FILE* out, long count) {
+  std::fprintf(out, "module top (");
+  for (long i = 0; i < count; ++i) std::fprintf(out, "%sp%ld", i ? ", " : "", i);
+  std::fprintf(out, ");\n");
+  for (long i = 0; i < count; ++i) std::fprintf(out, "  input p%ld;\n", i);
+  for (long i = 0; i < count; ++i)
+    std::fprintf(out, "  wire n%ld;\n  %s g%ld (.A(p%ld), .Y(n%ld));\n", i, kInv, i, i, i);
+  std::fprintf(out, "endmodule\n");
+}
+
+void WriteTinyModules(FILE* out, long count) {
+  for (long m = 0; m < count; ++m)
+    std::fprintf(
+        out, "module m%ld (a, y);\n  input a;\n  output y;\n  %s g (.A(a), .Y(y));\nendmodule\n", m,
+        kInv);
+  std::fprintf(out, "module top (a, y);\n  input a;\n  output y;\n");
+  for (long m = 0; m < count; ++m)
+    std::fprintf(out, "  wire t%ld;\n  m%ld u%ld (.a(%s), .y(t%ld));\n", m, m, m,
+                 m ? ("t" + std::to_string(m - 1)).c_str() : "a", m);
+  std::fprintf(out, "  assign y = t%ld;\nendmodule\n", count - 1);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::string shape = argc == 4 || argc == 5 ? argv[1] : "";
   if (shape != "flat" && shape != "hier" && shape != "modules" && shape != "reused" &&
-      shape != "bignet") {
-    std::fprintf(stderr, "usage: %s flat|hier|modules|reused|bignet INSTANCES FILE [WIDTH]\n",
+      shape != "bignet" && shape != "ports" && shape != "tiny") {
+    std::fprintf(stderr,
+                 "usage: %s flat|hier|modules|reused|bignet|ports|tiny INSTANCES FILE [WIDTH]\n",
                  argv[0]);
     return 2;
   }
@@ -130,6 +157,10 @@ int main(int argc, char** argv) {
     WriteGates(out, 1000, width, "g");
     std::fprintf(out, "endmodule\n");
     WriteChainTop(out, blocks, width, [](long) { return std::string("block"); });
+  } else if (shape == "ports") {
+    WritePorts(out, instances);
+  } else if (shape == "tiny") {
+    WriteTinyModules(out, instances);
   } else {
     WriteBigNet(out, instances);
   }
