@@ -4,7 +4,9 @@
 # port (4 commands a bus bit, with buses of 1024 bits: 4097 commands) of
 # generated flat netlists, in kelvo and, with -sta, in the sta of Debian's
 # opensta package over the same files. Reading and linking are timed apart.
-# Each size runs once: the 1M netlist takes some seconds and memory.
+# Then times constraint look-ups by port and pin on the same netlists
+# (kelvo_bench_sdc_lookup). Each size runs once: the 1M netlist takes some
+# seconds and memory.
 #   bench/run_sdc_read.sh [-sta] BUILD_DIR [SIZES]
 set -e
 with_sta=no
@@ -51,4 +53,5 @@ TCL
     (echo "set tool sta"; cat "$script"; echo exit) >"$script.sta"
     sta -no_init -no_splash "$script.sta"
   fi
+  "$build/kelvo_bench_sdc_lookup" -lib "$lib" "$f"
 done
