@@ -62,15 +62,27 @@ bool Invalid(const NameMatcher& matcher, std::string& error) {
   return true;
 }
 
+// Whether `matcher` takes the full name `full`, or with `anywhere` one of
+// its tails that start a level ("b1/u_and" of "top_blk/b1/u_and").
+bool MatchesPath(const NameMatcher& matcher, std::string_view full, bool anywhere) {
+  if (matcher.Matches(full)) return true;
+  if (!anywhere) return false;
+  for (size_t slash = full.find('/'); slash != std::string_view::npos;
+       slash = full.find('/', slash + 1))
+    if (matcher.Matches(full.substr(slash + 1))) return true;
+  return false;
+}
+
 // Walks cells or nets for a pattern: a plain full name is looked up; else
 // local names at the top, full names through the hierarchy for a pattern
-// with "/", local names everywhere with -hierarchical.
+// with "/", local names everywhere with -hierarchical, and with both the
+// names below any level.
 template <class T, class Walk, class Lookup>
 bool FindByPattern(const cdm::Design* design, const std::string& pattern,
                    const FindOptions& options, ObjectKind kind, Walk walk, Lookup lookup,
                    std::vector<ObjectRef>& found, std::string& error) {
   if (!design) return true;
-  const bool by_path = !options.hierarchical && pattern.find('/') != std::string::npos;
+  const bool by_path = pattern.find('/') != std::string::npos;
   NameMatcher matcher(pattern, options, by_path);
   if (Invalid(matcher, error)) return false;
   if (matcher.IsLiteral() && !options.hierarchical) {
@@ -78,7 +90,8 @@ bool FindByPattern(const cdm::Design* design, const std::string& pattern,
     return true;
   }
   for (T* object : walk(design, options.hierarchical || by_path)) {
-    if (by_path ? matcher.Matches(object->GetFullName()) : matcher.Matches(object->Name()))
+    if (by_path ? MatchesPath(matcher, object->GetFullName(), options.hierarchical)
+                : matcher.Matches(object->Name()))
       found.push_back({kind, object});
   }
   return true;
@@ -95,7 +108,7 @@ bool FindCells(const cdm::Design* design, const std::string& pattern, const Find
 bool FindNets(const cdm::Design* design, const std::string& pattern, const FindOptions& options,
               std::vector<ObjectRef>& found, std::string& error) {
   if (!design) return true;
-  const bool by_path = !options.hierarchical && pattern.find('/') != std::string::npos;
+  const bool by_path = pattern.find('/') != std::string::npos;
   NameMatcher matcher(pattern, options, by_path);
   if (Invalid(matcher, error)) return false;
   if (matcher.IsLiteral() && !options.hierarchical) {
@@ -107,18 +120,19 @@ bool FindNets(const cdm::Design* design, const std::string& pattern, const FindO
   // net is listed once, under the first of its names that matches.
   std::unordered_set<const cdm::Net*> seen;
   std::string full;
-  cdm::ForEachNetName(design, options.hierarchical || by_path,
-                      [&](cdm::Net* net, std::string_view path, std::string_view name) {
-                        if (seen.count(net)) return;
-                        if (by_path) {
-                          full.assign(path);
-                          full += name;
-                        }
-                        if (matcher.Matches(by_path ? std::string_view(full) : name)) {
-                          seen.insert(net);
-                          found.push_back({ObjectKind::kNet, net});
-                        }
-                      });
+  cdm::ForEachNetName(
+      design, options.hierarchical || by_path,
+      [&](cdm::Net* net, std::string_view path, std::string_view name) {
+        if (seen.count(net)) return;
+        if (by_path) {
+          full.assign(path);
+          full += name;
+        }
+        if (by_path ? MatchesPath(matcher, full, options.hierarchical) : matcher.Matches(name)) {
+          seen.insert(net);
+          found.push_back({ObjectKind::kNet, net});
+        }
+      });
   return true;
 }
 

@@ -65,3 +65,8 @@ puts "get_libs [get_libs], lib cells [get_lib_cells sdc_small/*]"
 if {[catch {get_attribute [get_ports clk] ref_name} message]} { puts $message }
 if {[catch {get_cells -regexp {(} } message]} { puts $message }
 if {[catch {index_collection [get_cells *] 9} message]} { puts $message }
+puts "--- a pattern with / under -hierarchical matches below any level"
+read_verilog query_deep.v
+link_design deep_top
+puts "cells: [get_cells l1/*] / -hierarchical: [get_cells -hierarchical l1/*]"
+puts "pins: [get_pins -hierarchical l1/u_inv/A] / nets: [get_nets -hierarchical l2/*]"
