@@ -295,6 +295,7 @@ bool LibEditor::CellStatement(LibCell* cell, const Statement& st) {
   if (name == "dont_touch") return Bool(st, cell->dont_touch_);
   if (name == "dont_use") return Bool(st, cell->dont_use_);
   if (name == "is_macro_cell") return Bool(st, cell->is_macro_);
+  if (name == "pad_cell") return Bool(st, cell->is_pad_);
   if (name == "is_memory_cell") return Bool(st, cell->is_memory_);
   if (name == "is_clock_gating_cell") return Bool(st, cell->is_clock_gating_cell_);
   if (name == "cell_footprint") {

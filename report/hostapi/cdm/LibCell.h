@@ -49,6 +49,8 @@ class LibCell : public Reference {
   bool IsSequentialCell() const { return !sequentials_.empty() || state_table_ != nullptr; }
   bool IsMemory() const { return is_memory_; }
   bool IsMacro() const { return is_macro_; }
+  // `pad_cell : true`: a cell of the chip's boundary.
+  bool IsPad() const { return is_pad_; }
   // No function on any pin and no timing group: a cell the tools cannot see into.
   bool IsBlackBox() const;
   bool IsBuffer() const { return one_input_kind_ == 1; }
@@ -112,6 +114,7 @@ class LibCell : public Reference {
   bool dont_use_ = false;
   bool is_memory_ = false;
   bool is_macro_ = false;
+  bool is_pad_ = false;
   bool is_clock_gating_cell_ = false;
   int one_input_kind_ = 0;  // 1 buffer, 2 inverter
   int const_value_ = -1;
