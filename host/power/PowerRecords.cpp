@@ -1,5 +1,7 @@
 #include "hostapi/cdm/PowerRecords.h"
 
+#include "hostapi/cdm/PowerTables.h"
+
 namespace cdm {
 
 const char* OriginToString(PwrActivityOrigin origin) {
@@ -33,6 +35,21 @@ PowerResult& PowerResult::operator+=(const PowerResult& other) {
   switching += other.switching;
   leakage += other.leakage;
   return *this;
+}
+
+}  // namespace cdm
+
+namespace cdm {
+namespace {
+PowerTables* power_tables = nullptr;
+}
+
+void SetPowerTables(PowerTables* tables) {
+  power_tables = tables;
+}
+
+PowerTables* GetPowerTables() {
+  return power_tables;
 }
 
 }  // namespace cdm
