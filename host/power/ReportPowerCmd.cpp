@@ -17,6 +17,7 @@
 #include "hostapi/msg/Msg.h"
 #include "hostapi/sta/Sta.h"
 #include "hostapi/sta/TimerMgr.h"
+#include "power/ActivityStore.h"
 #include "power/PowerActivitySource.h"
 #include "power/PowerAnalysis.h"
 #include "query/ObjectArgs.h"
@@ -87,14 +88,15 @@ class ReportPowerCmd : public CommonCmd {
       return 1;
     }
 
-    TimerMgr::getInstance()->updateTiming(false, nullptr);
+    // The store brings the timing it rests on up to date too.
+    power::ActivityStore& store = power::ActivityStore::Current();
     sta::Sta* sta = TimerMgr::getInstance()->getSta("");
-    if (!sta || !sta->timer() || !sta->timer()->Graph()) {
+    if (!store.Update() || !sta || !sta->timer() || !sta->timer()->Graph()) {
       SetTclError("report_power: the design cannot be timed (is it linked?)");
       return 1;
     }
     const sta::Timer& timer = *sta->timer();
-    power::PowerAnalysis analysis(timer, power::DesignActivity(timer));
+    power::PowerAnalysis analysis(timer, power::DesignActivity(store));
     analysis.Run(by_net);
 
     cdm::PowerTables* tables = cdm::GetPowerTables();
