@@ -21,12 +21,23 @@ struct Node {
   int parent = -1;                     // the node nearer the end
   uint32_t edge = PathStage::kNoEdge;  // from this vertex to the parent's
   float edge_delay = 0.0f;
-  float head = 0.0f;  // complete nodes: the arrival at the start
+  float head = 0.0f;  // the arrival at this vertex (complete nodes: at the start)
   const ArrivalSeed* seed = nullptr;
 };
 
 // Pops beyond which a search gives up (a guard against huge reconvergence).
 constexpr size_t kMaxPops = 2000000;
+
+// How much worse than the best way into a vertex a way through one of its
+// fan-in edges is. The arrival search folded exactly these sums, so the edge
+// the arrival came by deviates by exactly 0: keys made from deviations stay
+// equal along the worst path and the search follows it straight down, where
+// keys summed from both ends drift apart in the last bits and leave a deep
+// path among millions of near-ties.
+float Deviation(float best, float via, bool setup) {
+  const float dev = setup ? best - via : via - best;
+  return dev > 0.0f ? dev : 0.0f;
+}
 
 TimingPath Build(const std::vector<Node>& nodes, int complete, const PathEnd& end) {
   TimingPath path;
@@ -84,8 +95,11 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
   const int mm = end.setup ? 1 : 0;
   std::vector<Node> nodes;
   // Worst first: the latest arrival for setup, the earliest for hold.
+  // Among equal keys the node made last comes first: the search goes deep.
   auto worse = [&](int a, int b) {
-    return end.setup ? nodes[a].key < nodes[b].key : nodes[a].key > nodes[b].key;
+    if (nodes[a].key != nodes[b].key)
+      return end.setup ? nodes[a].key < nodes[b].key : nodes[a].key > nodes[b].key;
+    return a < b;
   };
   std::priority_queue<int, std::vector<int>, decltype(worse)> queue(worse);
   Node first;
@@ -93,6 +107,7 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
   first.tag = end.tag;
   first.rf = end.rf;
   first.key = end.arrival - end.launch_shift;
+  first.head = first.key;
   nodes.push_back(first);
   queue.push(0);
   size_t pops = 0;
@@ -104,6 +119,10 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
       paths.push_back(Build(nodes, index, end));
       continue;
     }
+    // A child's key: its parent's, less how much worse its way in is.
+    auto Step = [&](const Node& parent, float deviation) {
+      return end.setup ? parent.key - deviation : parent.key + deviation;
+    };
     auto push = [&](Node child) {
       nodes.push_back(child);
       queue.push(static_cast<int>(nodes.size() - 1));
@@ -116,7 +135,7 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
         child.parent = index;
         child.vertex = node.vertex;
         child.head = seed.arrival.Get(node.rf, mm);
-        child.key = child.head + node.suffix;
+        child.key = Step(node, Deviation(node.head, child.head, end.setup));
         child.seed = &seed;
         push(child);
       }
@@ -150,7 +169,7 @@ std::vector<TimingPath> EnumeratePaths(ArrivalSearch& search, const PathEnd& end
           child.head = child.kind == Node::Kind::kRegister
                            ? search.ClockPinArrival(entry, from_rf, mm)
                            : entry.Get(from_rf, mm);
-          child.key = child.head + child.suffix;
+          child.key = Step(node, Deviation(node.head, child.head + delay, end.setup));
           push(child);
         }
       }

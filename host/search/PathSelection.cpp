@@ -55,12 +55,14 @@ std::vector<TimingPath> SelectPaths(TimingSearch& search, const PathSelection& s
     const size_t wanted = static_cast<size_t>(selection.max_paths);
     for (uint32_t vertex : order) {
       const std::vector<const PathEnd*>& list = per_vertex[vertex];
-      // No path to a later endpoint beats its worst end.
-      if (group_paths.size() >= wanted && list.front()->slack > group_paths[wanted - 1].slack)
+      // No path to a later endpoint beats its worst end, and one that only
+      // ties it would sort after the paths already kept.
+      if (group_paths.size() >= wanted && list.front()->slack >= group_paths[wanted - 1].slack)
         break;
       std::vector<TimingPath> paths = EndpointPaths(search.Arrivals(), list, selection.nworst);
       group_paths.insert(group_paths.end(), paths.begin(), paths.end());
       std::stable_sort(group_paths.begin(), group_paths.end(), ByWorst);
+      if (group_paths.size() > wanted) group_paths.resize(wanted);
     }
     if (group_paths.size() > wanted) group_paths.resize(wanted);
     selected.insert(selected.end(), group_paths.begin(), group_paths.end());

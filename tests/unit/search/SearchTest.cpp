@@ -7,6 +7,7 @@
 
 #include <cmath>
 
+#include "search/PathSelection.h"
 #include "support/TimingTestUtil.h"
 
 namespace {
@@ -189,6 +190,38 @@ TEST_F(SearchTest, AConstraintChangeRetimesAndARelinkRebuilds) {
   ASSERT_TRUE(cdm::LinkDesign(Root(), design, warnings, error)) << error;
   EXPECT_NEAR(SlackNs("out1"), 8.0 - 0.42, 1e-5);
   EXPECT_EQ(timer.GraphBuildCount(), 2u);
+}
+
+// in -> 60 diamonds (a BUF pair rejoined by an AND2) -> out: 2^60 paths, all
+// of the same delay. The worst one is found by walking straight down; a
+// search led astray by keys a rounding apart never finishes.
+TEST_F(SearchTest, TheWorstPathThroughManyTiedReconvergencesIsFoundDirectly) {
+  const int kDiamonds = 60;
+  std::string netlist = "module st_ties(in, clk, out);\n  input in, clk; output out;\n";
+  for (int i = 0; i < kDiamonds; ++i)
+    netlist += "  wire a" + std::to_string(i) + ", l" + std::to_string(i) + ", r" +
+               std::to_string(i) + ";\n";
+  netlist += "  BUF head(.A(in), .Z(a0));\n";
+  for (int i = 0; i < kDiamonds; ++i) {
+    const std::string n = std::to_string(i);
+    const std::string next = i + 1 < kDiamonds ? "a" + std::to_string(i + 1) : "out";
+    netlist += "  BUF bl" + n + "(.A(a" + n + "), .Z(l" + n + "));\n";
+    netlist += "  BUF br" + n + "(.A(a" + n + "), .Z(r" + n + "));\n";
+    netlist += "  AND2 j" + n + "(.A(l" + n + "), .B(r" + n + "), .Z(" + next + "));\n";
+  }
+  netlist += "endmodule";
+  Load(netlist, "st_ties");
+  Run("create_clock -name clk -period 100 [get_ports clk]\n"
+      "set_input_delay 1 -clock clk [get_ports in]\n"
+      "set_output_delay 1 -clock clk [get_ports out]\n");
+  sta::PathSelection selection;
+  const std::vector<sta::TimingPath> paths = sta::SelectPaths(Timed().Search(), selection);
+  ASSERT_EQ(paths.size(), 1u);
+  // The input, the head BUF's two pins, a BUF's and the AND2's two pins a
+  // diamond, the output.
+  EXPECT_EQ(paths[0].stages.size(), static_cast<size_t>(1 + 2 + 4 * kDiamonds + 1));
+  // Re-summed from its start, the path arrives exactly where the search said.
+  EXPECT_EQ(paths[0].slack, EndsAt("out", true).front().slack);
 }
 
 }  // namespace
