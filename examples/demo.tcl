@@ -1,4 +1,4 @@
-# Demo: the gcd design of sky130hd, read, linked and reported.
+# Demo: the gcd design of sky130hd, read, linked, constrained and reported.
 # Run from this folder:  ../build/kelvo demo.tcl
 read_liberty sky130hd_tt.lib.gz
 read_verilog gcd_sky130hd.v
@@ -12,3 +12,13 @@ report_reference
 report_hierarchy
 report_bus
 report_cell [get_cells _2*_]
+
+# Constraints, then what follows from them: ports, nets, timing and power.
+read_sdc gcd_sky130hd.sdc
+report_port -verbose [get_ports {clk req_msg[0] resp_msg[0]}]
+report_net -connections [get_nets _000_]
+report_net_fanout -threshold 20
+report_clock
+report_timing
+report_constraint
+report_power
