@@ -31,6 +31,9 @@ const CatalogueEntry kCatalogue[] = {
     {STA_002, Severity::kWarning,
      "SPEF net '%s' is not a net of design '%s'; its parasitics are left out."},
     {STA_003, Severity::kWarning, "SPEF %s '%s' of net '%s' is not in design '%s'."},
+    {STA_004, Severity::kWarning,
+     "Pin '%s' of net '%s' is missing from the net's SPEF connections; its capacitance loads "
+     "the net all the same."},
 };
 
 }  // namespace

@@ -2,17 +2,21 @@
 // total capacitance and resistance of their SPEF descriptions. A file is
 // read whole before anything is annotated: a syntax error (with its file
 // and line) leaves the annotations as they were. A net or pin the design
-// lacks is one warning each and is left out.
+// lacks is one warning each and is left out; so is a pin of the design that
+// the net's connections leave out.
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "cmdlib/HostCommands.h"
 #include "cmdlib/ReadFiles.h"
+#include "db/FlatNet.h"
 #include "db/PathLookup.h"
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Net.h"
+#include "hostapi/cdm/Pin.h"
 #include "hostapi/cdm/Root.h"
 #include "hostapi/cmd/CommonCmd.h"
 #include "msg/HostMsg.h"
@@ -33,10 +37,22 @@ std::unordered_map<uint32_t, NetFigures> Resolve(const cdm::Design* design, cons
       msg::HostMsg(STA_002, {net.name, design->Name()}, {path, net.line});
       continue;
     }
+    std::unordered_set<const cdm::Pin*> connected;
     for (const SpefNet::Conn& conn : net.conns) {
-      if (!cdm::FindPinByPath(design, conn.name))
+      const cdm::Pin* pin = cdm::FindPinByPath(design, conn.name);
+      if (pin)
+        connected.insert(pin);
+      else
         msg::HostMsg(STA_003, {conn.port ? "port" : "pin", conn.name, net.name, design->Name()},
                      {path, conn.line});
+    }
+    // A file written for another version of the netlist leaves pins out;
+    // the netlist decides what loads the net, so each is only told.
+    if (!net.conns.empty()) {
+      cdm::WalkFlatNet(found, false, [&](cdm::Pin* pin) {
+        if (!connected.count(pin))
+          msg::HostMsg(STA_004, {pin->GetFullName(), net.name}, {path, net.line});
+      });
     }
     figures[found->FlatNetId()] = {static_cast<float>(net.capacitance),
                                    static_cast<float>(net.resistance)};
