@@ -77,6 +77,7 @@ double ActivityPropagator::Rate(const RateSetting& rate) const {
 void ActivityPropagator::Apply(const ActivitySetting& setting, NetActivity& activity) const {
   if (setting.rate) activity.rate = Rate(*setting.rate);
   if (setting.probability) activity.probability = *setting.probability;
+  if (setting.rate) activity.summed = false;
   activity.origin = setting.origin;
 }
 
@@ -349,12 +350,18 @@ NetActivity ActivityPropagator::Evaluate(const cdm::LibBoolFuncExpr& function, u
     if ((refs_[i] & kState) && (refs_[i] & kIndex) != self) Refresh(refs_[i] & kIndex);
   probability_.resize(count);
   density_.resize(count);
+  NetActivity out{0.0, 0.5, ActivityOrigin::kPropagated};
+  int switching = 0;
   for (uint32_t i = 0; i < count; ++i) {
     const NetActivity input = Input(refs_[first + i], self);
     probability_[i] = input.probability;
     density_[i] = input.rate;
+    if (input.rate > 0.0) {
+      ++switching;
+      out.summed = out.summed || input.summed;
+    }
   }
-  NetActivity out{0.0, 0.5, ActivityOrigin::kPropagated};
+  out.summed = out.summed || switching > 1;
   FunctionActivity(Table(function), probability_, density_, out.probability, out.rate);
   return out;
 }
@@ -372,10 +379,19 @@ void ActivityPropagator::Refresh(uint32_t index) {
   state.busy = false;
   // One active edge a clock period: the state changes at most that often,
   // and with data independent from cycle to cycle 2p(1-p) of the times.
+  // Data that moves at most once a period (a register's output, an input,
+  // through cells with one switching input) the state follows up to that
+  // bound. A rate summed over several inputs counts transitions that
+  // cancel within a period: those are taken as falling at random, the
+  // state changing when an odd number fell since the last edge, which for
+  // a two-valued signal held with probability p is
+  // 2p(1-p) (1 - exp(-rate / (2p(1-p) edges))) of the edges.
   const double edges = clock.rate / 2.0;
   const double p = data.probability;
-  const NetActivity value{std::min(data.rate, 2.0 * p * (1.0 - p) * edges), p,
-                          ActivityOrigin::kPropagated};
+  const double most = 2.0 * p * (1.0 - p) * edges;
+  double rate = std::min(data.rate, most);
+  if (data.summed && most > 0.0) rate = -most * std::expm1(-data.rate / most);
+  const NetActivity value{rate, p, ActivityOrigin::kPropagated};
   if (Differs(value, state.value)) state.changed_at = pass_;
   state.value = value;
 }

@@ -2,7 +2,10 @@
 // tests/data/activity_small.lib. Inputs switch independently: an AND of
 // inputs with probabilities pa, pb and densities da, db is 1 with pa*pb
 // and switches pb*da + pa*db times a second; a register samples its next
-// state once a clock period.
+// state once a clock period: data that moves at most once a period it
+// follows up to 2p(1-p) of the edges; data whose rate sums several
+// switching inputs changes it 2p(1-p) (1 - exp(-D / (2p(1-p) edges))) of
+// the time.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -94,21 +97,28 @@ endmodule)",
   EXPECT_RATE(Net("n_xor").rate, 1.15e8);
   EXPECT_NEAR(Net("n_inv").probability, 0.34, 1e-9);
   EXPECT_RATE(Net("n_inv").rate, 1.15e8);
-  // The register: its data changes more often than the clock samples it,
-  // so 2 * 0.34 * 0.66 of the 1e8 rising edges a second.
+  // The register: at most 2 * 0.34 * 0.66 of the 1e8 rising edges a
+  // second, 4.488e7; the data's 1.15e8 sums two switching XOR inputs:
+  // 4.488e7 (1 - exp(-1.15e8 / 4.488e7)).
   EXPECT_NEAR(Net("q").probability, 0.34, 1e-9);
-  EXPECT_RATE(Net("q").rate, 4.488e7);
+  EXPECT_RATE(Net("q").rate, 4.141884e7);
   EXPECT_NEAR(Net("qn").probability, 0.66, 1e-9);
-  EXPECT_RATE(Net("qn").rate, 4.488e7);
+  EXPECT_RATE(Net("qn").rate, 4.141884e7);
 
-  // Slower data than that: the register follows it.
+  // Slow data: the XOR's inputs both follow a (taken as independent, so
+  // 1 half the time and 2e6 transitions a second, summed over two inputs):
+  // 5e7 (1 - exp(-2e6 / 5e7)), a little under 2e6.
   Annotate("a", 1e6, 0.5);
   Annotate("b", 0.0, 1.0);
   Annotate("c", 0.0, 0.0);
   EXPECT_RATE(Net("n_xor").rate, 2e6);
-  EXPECT_RATE(Net("q").rate, 2e6);
-  // Both XOR inputs are a, but inputs are taken as independent.
+  EXPECT_RATE(Net("q").rate, 1.960528e6);
   EXPECT_NEAR(Net("q").probability, 0.5, 1e-9);
+  // Data with one switching input moves at most once a period: the
+  // register follows it, up to 2p(1-p) of the edges.
+  Annotate("c", 0.0, 1.0);
+  EXPECT_RATE(Net("n_xor").rate, 1e6);
+  EXPECT_RATE(Net("q").rate, 1e6);
 }
 
 TEST_F(ActivityPropagationTest, DefaultsClocksConstantsAndPartialSettings) {
@@ -176,8 +186,9 @@ endmodule)",
   Annotate("en", 1e7, 0.25);
   Annotate("d", 4e7, 0.5);
   // Held three times in four: EN decides when D differs from the state
-  // (half the time), D when EN is 1.
-  EXPECT_RATE(Net("q").rate, 0.5 * 1e7 + 0.25 * 4e7);
+  // (half the time), D when EN is 1: 0.5 * 1e7 + 0.25 * 4e7, summed over
+  // two inputs, so 5e7 (1 - exp(-1.5e7 / 5e7)).
+  EXPECT_RATE(Net("q").rate, 1.2959089e7);
   EXPECT_NEAR(Net("q").probability, 0.5, 1e-6);
   // A combinational loop and a register feeding itself end within the bound.
   EXPECT_NE(capture.Take().find("Combinational loop cut"), std::string::npos);
