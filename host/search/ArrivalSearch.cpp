@@ -129,6 +129,14 @@ void ArrivalSearch::SeedClocks() {
   }
 }
 
+uint32_t ArrivalSearch::StartStates(uint32_t vertex, int clock, int rf) {
+  ExceptionPaths& exceptions = *context_.exceptions;
+  const uint32_t states = exceptions.Start(vertex, 0, clock, rf);
+  if (states == ExceptionPaths::kDropped) return states;
+  // An input is also the first point the path passes.
+  return exceptions.Advance(states, vertex, rf);
+}
+
 void ArrivalSearch::SeedInputDelays() {
   if (!context_.store) return;
   const std::vector<sdc::Clock*>& clocks = *context_.clocks;
@@ -143,7 +151,7 @@ void ArrivalSearch::SeedInputDelays() {
       const int edge = clock < 0 ? -1 : clock * 2 + delay->getClockEdge()->getRiseFall()->index();
       for (int rf = 0; rf < 2; ++rf) {
         if (exceptions.HasFilter() && !exceptions.FilterAllowsStart(v, 0, clock, rf)) continue;
-        const uint32_t states = exceptions.Start(v, 0, clock, rf);
+        const uint32_t states = StartStates(v, clock, rf);
         if (states == ExceptionPaths::kDropped) continue;
         ArrivalSeed seed{ArrivalSeed::Kind::kInputDelay,
                          Empty(tags_.Find(Tag{edge, false, states})), delay};
@@ -183,7 +191,7 @@ void ArrivalSearch::SeedUnclocked() {
     }
     for (int rf = 0; rf < 2; ++rf) {
       if (exceptions.HasFilter() && !exceptions.FilterAllowsStart(v, 0, -1, rf)) continue;
-      const uint32_t states = exceptions.Start(v, 0, -1, rf);
+      const uint32_t states = StartStates(v, -1, rf);
       if (states == ExceptionPaths::kDropped) continue;
       ArrivalSeed seed{ArrivalSeed::Kind::kUnclocked, Empty(tags_.Find(Tag{-1, false, states}))};
       for (int mm = 0; mm < 2; ++mm) {
@@ -206,7 +214,9 @@ bool ArrivalSearch::Propagate(uint32_t edge_index, uint32_t from_tag, int from_r
     const int clock = tag.Clock();
     if (exceptions.HasFilter() && !exceptions.FilterAllowsStart(edge.from, edge.to, clock, from_rf))
       return false;
-    const uint32_t states = exceptions.Start(edge.from, edge.to, clock, from_rf);
+    // The path passes the output it starts from.
+    uint32_t states = exceptions.Start(edge.from, edge.to, clock, from_rf);
+    if (states != ExceptionPaths::kDropped) states = exceptions.Advance(states, edge.to, to_rf);
     if (states == ExceptionPaths::kDropped) return false;
     to_tag = tags_.Find(Tag{tag.clock_edge, false, states});
     return true;

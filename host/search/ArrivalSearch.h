@@ -94,6 +94,9 @@ class ArrivalSearch {
  private:
   void Seed();
   void SeedClocks();
+  // The exception states of a path that starts at input `vertex`; kDropped
+  // when an exception drops it there.
+  uint32_t StartStates(uint32_t vertex, int clock, int rf);
   void SeedInputDelays();
   void SeedUnclocked();
   void AddSeed(uint32_t vertex, ArrivalSeed seed);

@@ -293,12 +293,12 @@ uint32_t ExceptionPaths::AdvanceAt(uint32_t states, uint32_t vertex, int rf) {
       changed = true;
       continue;
     }
-    // A path that has passed the points before this one moves on.
-    for (uint32_t held : sets_[states]) {
-      if (held == (index << 8 | position)) {
-        items.push_back(index << 8 | (position + 1));
-        changed = true;
-      }
+    // A path that has passed the points before this one moves on; one
+    // vertex may meet several lists in a row (a net, then a pin of it), as
+    // the items of an exception come in the order of its lists.
+    if (std::find(items.begin(), items.end(), index << 8 | position) != items.end()) {
+      items.push_back(index << 8 | (position + 1));
+      changed = true;
     }
   }
   const uint32_t result = changed ? Intern(std::move(items)) : states;

@@ -53,6 +53,19 @@ const char* const kAsyncGroup = "**async_default**";
 
 }  // namespace
 
+bool IsPathGroupName(sdc::SdcStore* store, const std::string& name) {
+  if (name == kDefaultGroup || name == kAsyncGroup) return true;
+  if (!store) return false;
+  for (const sdc::Clock* clock : store->Clocks())
+    if (clock->Name() == name) return true;
+  for (const sdc::PathException& exception : store->Exceptions()) {
+    if (exception.type == sdc::PathException::Type::kGroupPath && !exception.group_default &&
+        exception.group == name)
+      return true;
+  }
+  return false;
+}
+
 void PathEnds::Find(ArrivalSearch& search) {
   search_ = &search;
   ends_.clear();

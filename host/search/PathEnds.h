@@ -20,7 +20,13 @@ namespace sta {
 
 namespace sdc {
 class OutputDelay;
-}
+class SdcStore;
+}  // namespace sdc
+
+// Whether `name` can name a path group: a clock's (the paths it captures),
+// one of group_path, or one of the two default groups ("**default**",
+// "**async_default**"), whether or not a path belongs to it now.
+bool IsPathGroupName(sdc::SdcStore* store, const std::string& name);
 
 struct CompiledException;
 

@@ -190,6 +190,13 @@ int ReportTimingCmd::exec() {
     if (!Point("to", ends, -1, to)) return 1;
     filter.to = &to;
   }
+  const std::vector<std::string> groups = Groups();
+  for (const std::string& group : groups) {
+    if (!IsPathGroupName(timer->Context().store, group)) {
+      SetTclError("report_timing: -group names no path group: '" + group + "'");
+      return 1;
+    }
+  }
   TimingSearch* search = &timer->Search();
   std::unique_ptr<TimingSearch> filtered;
   if (filter.from || filter.to || !filter.throughs.empty()) {
@@ -210,7 +217,7 @@ int ReportTimingCmd::exec() {
   PrintBanner(header);
   PathSelection selection;
   selection.setup = delay_type == "max";
-  selection.groups = Groups();
+  selection.groups = groups;
   selection.max_paths = max_paths;
   selection.nworst = nworst;
   const std::vector<TimingPath> paths = SelectPaths(*search, selection);
