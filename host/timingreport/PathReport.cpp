@@ -227,12 +227,14 @@ void PathReport::CaptureRows(const TimingPath& path) {
     row.path = numbers_.Time(at) + " " + EdgeMark(end.clock_rf);
     rows_.push_back(row);
     const double margin = setup ? -end.margin : end.margin;
-    at += margin;
+    // The last step lands on the required time itself, so that the row and
+    // "data required time" below it round alike.
+    at = end.required;
     const std::string what = end.async ? (setup ? "library recovery time" : "library removal time")
                                        : (setup ? "library setup time" : "library hold time");
     Value(what, margin, at);
   } else {
-    at -= end.margin;
+    at = end.required;
     Value("output external delay", -end.margin, at);
   }
   Total("data required time", end.required);
