@@ -2,8 +2,10 @@
 // delimiters of the header, triplets, what a net keeps, and the errors with
 // their lines.
 #include <gtest/gtest.h>
+#include <zlib.h>
 
 #include <fstream>
+#include <iterator>
 #include <string>
 
 #include "parasitics/SpefReader.h"
@@ -36,6 +38,26 @@ TEST(SpefReaderTest, NetsKeepTheirTotalsInSiWithMappedNames) {
   EXPECT_EQ(spef.nets[1].name, "q2");
   EXPECT_NEAR(spef.nets[1].capacitance, 5e-15, 1e-21);
   EXPECT_EQ(spef.nets[1].conns[0].name, "r2/Q");
+}
+
+TEST(SpefReaderTest, AGzippedFileReadsAsThePlainOne) {
+  std::ifstream plain(DataPath("timer_small.spef"));
+  const std::string text((std::istreambuf_iterator<char>(plain)), std::istreambuf_iterator<char>());
+  ASSERT_FALSE(text.empty());
+  const std::string zipped = ::testing::TempDir() + "/spef_zipped.spef.gz";
+  gzFile gz = gzopen(zipped.c_str(), "wb");
+  ASSERT_NE(gz, nullptr);
+  ASSERT_EQ(gzwrite(gz, text.data(), static_cast<unsigned>(text.size())),
+            static_cast<int>(text.size()));
+  gzclose(gz);
+  SpefFile spef;
+  std::string error;
+  ASSERT_TRUE(parasitics::ReadSpefFile(zipped, spef, error)) << error;
+  ASSERT_EQ(spef.nets.size(), 2u);
+  EXPECT_EQ(spef.nets[0].name, "n1");
+  EXPECT_EQ(spef.nets[0].line, 27);
+  EXPECT_NEAR(spef.nets[0].capacitance, 20e-15, 1e-21);
+  EXPECT_NEAR(spef.nets[1].capacitance, 5e-15, 1e-21);
 }
 
 TEST(SpefReaderTest, DividerBusDelimiterAndEscapesBecomeTheDesignsNames) {
