@@ -7,6 +7,7 @@
 # (two pins), r1/Q 2 (INV/A's fanout_load) against 1. Hold at r2/D: 0.34
 # against 0.02 + 0.5 of uncertainty. The slews meet the library's limits
 # (1.0; 0.5 at DFF/Q): r1/Q 0.04 is the closest, 0.46 below its 0.5.
+# Last, the hold violator with its path, the uncertainty on the capture side.
 source ../golden/timing/timer_setup.tcl
 set_max_capacitance 0.012 [current_design]
 set_min_capacitance 0.012 [current_design]
@@ -15,3 +16,4 @@ set_clock_uncertainty -hold 0.5 [get_clocks clk]
 report_constraint -max_capacitance -min_capacitance -max_fanout -min_delay -max_transition -significant_digits 3
 report_constraint -all_violators -max_capacitance -min_capacitance -max_fanout -min_delay -max_transition -significant_digits 3
 report_constraint -max_fanout -significant_digits 0
+report_constraint -all_violators -verbose -min_delay
