@@ -6,6 +6,7 @@
 
 #include "cmdlib/ReadFiles.h"
 #include "io/FileLoader.h"
+#include "msg/SafeText.h"
 
 namespace parasitics {
 namespace {
@@ -106,7 +107,7 @@ class Parser {
 
 bool Parser::Fail(const std::string& what, int line) {
   if (!line) line = AtEnd() ? (tokens_.empty() ? 1 : tokens_.back().line) : Peek().line;
-  error_ = path_ + ":" + std::to_string(line) + ": " + what;
+  error_ = path_ + ":" + std::to_string(line) + ": " + msg::CutQuotes(what);
   return false;
 }
 

@@ -7,6 +7,7 @@
 #include "db/PathLookup.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Net.h"
+#include "msg/SafeText.h"
 
 namespace power {
 namespace {
@@ -155,7 +156,7 @@ class SaifParser {
 
  private:
   bool Fail(int line, const std::string& why) {
-    if (error_.empty()) error_ = file_ + ":" + std::to_string(line) + ": " + why;
+    if (error_.empty()) error_ = file_ + ":" + std::to_string(line) + ": " + msg::CutQuotes(why);
     return false;
   }
   bool Expect(Token::Kind kind, const char* what) {

@@ -9,6 +9,7 @@
 #include "db/PathLookup.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Net.h"
+#include "msg/SafeText.h"
 
 namespace power {
 namespace {
@@ -75,7 +76,7 @@ class VcdParser {
 
  private:
   bool Fail(int line, const std::string& why) {
-    if (error_.empty()) error_ = file_ + ":" + std::to_string(line) + ": " + why;
+    if (error_.empty()) error_ = file_ + ":" + std::to_string(line) + ": " + msg::CutQuotes(why);
     return false;
   }
   std::string Joined() const {
