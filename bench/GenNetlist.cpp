@@ -9,9 +9,12 @@
 //   ports    a top with INSTANCES scalar input ports, each declared on a
 //            line of its own and driving an inverter;
 //   tiny     INSTANCES distinct modules of one inverter, each used once
-//            (with modules: more modules at the same gate count).
+//            (with modules: more modules at the same gate count);
+//   tree     a binary hierarchy: each level two instances of the level
+//            below, one inverter at the bottom, INSTANCES rounded up to a
+//            power of two leaves (with flat: the cost of the hierarchy).
 //
-//   kelvo_gen_netlist flat|hier|modules|reused|bignet|ports|tiny INSTANCES FILE [WIDTH]
+//   kelvo_gen_netlist flat|hier|modules|reused|bignet|ports|tiny|tree INSTANCES FILE [WIDTH]
 //
 // WIDTH (16 unless given) is the width of the in and out buses, so that a
 // netlist can have thousands of ports.
@@ -101,15 +104,31 @@ void WriteTinyModules(FILE* out, long count) {
   std::fprintf(out, "  assign y = t%ld;\nendmodule\n", count - 1);
 }
 
+void WriteTree(FILE* out, long leaves) {
+  int depth = 0;
+  while ((1L << depth) < leaves) ++depth;
+  for (int level = 0; level < depth; ++level) {
+    const std::string name = level ? "m" + std::to_string(level) : "top";
+    std::fprintf(out,
+                 "module %s (a, y);\n  input a;\n  output y;\n  wire t;\n"
+                 "  m%d u0 (.a(a), .y(t));\n  m%d u1 (.a(t), .y(y));\nendmodule\n",
+                 name.c_str(), level + 1, level + 1);
+  }
+  std::fprintf(out,
+               "module m%d (a, y);\n  input a;\n  output y;\n  %s g (.A(a), .Y(y));\nendmodule\n",
+               depth, kInv);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::string shape = argc == 4 || argc == 5 ? argv[1] : "";
   if (shape != "flat" && shape != "hier" && shape != "modules" && shape != "reused" &&
-      shape != "bignet" && shape != "ports" && shape != "tiny") {
-    std::fprintf(stderr,
-                 "usage: %s flat|hier|modules|reused|bignet|ports|tiny INSTANCES FILE [WIDTH]\n",
-                 argv[0]);
+      shape != "bignet" && shape != "ports" && shape != "tiny" && shape != "tree") {
+    std::fprintf(
+        stderr,
+        "usage: %s flat|hier|modules|reused|bignet|ports|tiny|tree INSTANCES FILE [WIDTH]\n",
+        argv[0]);
     return 2;
   }
   long instances = std::atol(argv[2]);
@@ -161,6 +180,8 @@ int main(int argc, char** argv) {
     WritePorts(out, instances);
   } else if (shape == "tiny") {
     WriteTinyModules(out, instances);
+  } else if (shape == "tree") {
+    WriteTree(out, instances);
   } else {
     WriteBigNet(out, instances);
   }
