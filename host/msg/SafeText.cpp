@@ -49,6 +49,7 @@ std::string Excerpt(std::string_view text, size_t longest) {
 
 std::string CutQuotes(std::string_view message, size_t longest) {
   std::string cut;
+  bool quoted = false;
   size_t at = 0;
   while (at < message.size()) {
     const char c = message[at];
@@ -60,13 +61,22 @@ std::string CutQuotes(std::string_view message, size_t longest) {
       ++at;
       continue;
     }
+    // The quote that closes is followed by the end, a blank or punctuation:
+    // quotes inside a token (a''b) close nothing.
     size_t close = message.find(c, at + 1);
+    while (close != std::string_view::npos && close + 1 < message.size() &&
+           std::string_view(" \t\n)]},.;:").find(message[close + 1]) == std::string_view::npos)
+      close = message.find(c, close + 1);
     if (close == std::string_view::npos) close = message.size();
+    quoted = true;
     cut += c;
     cut += Excerpt(message.substr(at + 1, close - at - 1), longest);
     if (close < message.size()) cut += c;
     at = close + 1;
   }
+  // Quotes that a token itself holds can still pair up wrongly: the whole
+  // message that quotes stays within eight quoted parts' worth.
+  if (quoted && cut.size() > 8 * longest) return Excerpt(cut, 8 * longest);
   return cut;
 }
 

@@ -30,6 +30,17 @@ TEST(SafeText, CutQuotesShortensOnlyLongQuotedParts) {
   const std::string prose = "the cell's " + big + " is fine";
   EXPECT_EQ(msg::CutQuotes(prose), prose);
   EXPECT_EQ(msg::CutQuotes("found '''"), "found '''");
+  // Quotes inside a token close nothing: the quote that closes is followed by
+  // the end, a blank or punctuation.
+  std::string odd;
+  for (int i = 0; i < 200; ++i) odd += "a''b\xff";
+  EXPECT_EQ(msg::CutQuotes("unexpected '" + odd + "' in the definitions"),
+            "unexpected '" + odd.substr(0, 60) + "... (1000 bytes)' in the definitions");
+  // Whatever the quotes, the message stays within 8 quoted parts' worth.
+  std::string quotes;
+  for (int i = 0; i < 200; ++i) quotes += "z' '";
+  EXPECT_EQ(msg::CutQuotes("found '" + quotes + "'"),
+            "found '" + quotes.substr(0, 613) + "... (808 bytes)");
   // A reader that quotes names allows longer ones.
   EXPECT_EQ(msg::CutQuotes("no cell '" + big + "'", 1000), "no cell '" + big + "'");
   EXPECT_EQ(msg::CutQuotes("no cell '" + big + "z'", 1000),
