@@ -1,5 +1,6 @@
 #include "hostapi/sta/SdcMgr.h"
 
+#include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Pin.h"
 #include "hostapi/cdm/Port.h"
@@ -39,8 +40,8 @@ float SdcMgr::getPortExtWireCap(const cdm::Port* port, const cdm::RiseFall* edge
 }
 
 void SdcMgr::getLogicValue(const cdm::Port* port, cdm::LogicValue& value, bool& isSet) {
-  cdm::Design* design = store_->GetDesign();
-  if (!design || !port) return;
+  if (!store_->Sync() || !port) return;
+  cdm::Design* design = cdm::DbManager::GetCurrentDesign();
   if (const PortConstraints* record = store_->FindPort(port); record && record->logic) {
     value = *record->logic;
     isSet = true;

@@ -2,6 +2,8 @@
 // each accessor answers from what the store holds.
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "hostapi/cdm/LibCell.h"
 #include "support/SdcTestUtil.h"
 
@@ -23,7 +25,15 @@ std::string Netlist(const std::string& top) {
   return text;
 }
 
-class SdcMgrTest : public sdctest::SdcTest {};
+class SdcMgrTest : public sdctest::SdcTest {
+ protected:
+  // Links `top` again: the database's change generation moves.
+  static void Relink(const std::string& top) {
+    std::vector<std::string> warnings;
+    std::string error;
+    EXPECT_TRUE(cdm::LinkDesign(Root(), Root()->FindDesign(top), warnings, error)) << error;
+  }
+};
 
 TEST_F(SdcMgrTest, WithoutADesignTheStoreIsEmptyAndAnswersNothing) {
   sta::sdc::SdcMgr* sdc = sta::sdc::SdcMain::getOrCreateSdcMgr(nullptr);
@@ -179,6 +189,59 @@ TEST_F(SdcMgrTest, DelaysComePerClockEdgeInTheOrderSet) {
   ASSERT_EQ(Sdc()->getInputDelays(in)->size(), 1u);
   EXPECT_EQ(Sdc()->getInputDelays(in)->front(), second);
   EXPECT_EQ(Sdc()->getOutputDelays(in), nullptr);
+}
+
+// A store answers only while its design is current; whichever accessor is
+// asked first after its design is current again answers again.
+TEST_F(SdcMgrTest, EachAccessorAnswersOnlyWhileItsDesignIsCurrent) {
+  cdm::Design* design = Load(Netlist("mine_top"), "mine_top");
+  ASSERT_NE(design, nullptr);
+  sta::sdc::SdcMgr* sdc = sta::sdc::SdcMain::getOrCreateSdcMgr(design);
+  ASSERT_EQ(sdc, Sdc());
+  sta::sdc::SdcStore& store = Store();
+  cdm::Port* in = Port("in");
+  cdm::Port* out = Port("out");
+  cdm::Pin* in_pin = design->FindPin("in");
+  cdm::Pin* out_pin = design->FindPin("out");
+  sta::sdc::Clock* clk = store.MakeClock("clk");
+  store.SetClockWaveform(clk, 2e-9f, {0.0f, 1e-9f});
+  store.Port(in).logic = cdm::kLogicOne;
+  store.Pin(out_pin).case_value = cdm::kLogicZero;
+  store.SetPortLoad(out, RiseFallBoth::rise_fall_, MinMaxAll::kAll, true, 1e-12f);
+  store.SetInputSlew(in, RiseFallBoth::rise_fall_, MinMaxAll::kAll, 1e-10f);
+  store.Port(out).max_fanout = 5.0f;
+  store.Pin(in_pin).ideal_source = true;
+  store.SetPortDelay(true, in_pin, clk->getEdge(RiseFall::rise_), nullptr, RiseFallBoth::rise_fall_,
+                     MinMaxAll::kAll, 1e-9f, false, false, false);
+  store.SetPortDelay(false, out_pin, clk->getEdge(RiseFall::rise_), nullptr,
+                     RiseFallBoth::rise_fall_, MinMaxAll::kAll, 1e-9f, false, false, false);
+  auto logic = [&](cdm::Port* port, cdm::LogicValue expected) {
+    cdm::LogicValue value = cdm::kLogicDontCare;
+    bool is_set = false;
+    sdc->getLogicValue(port, value, is_set);
+    return is_set && value == expected;
+  };
+  const std::vector<std::pair<const char*, std::function<bool()>>> accessors = {
+      {"getLogicValue of a port", [&] { return logic(in, cdm::kLogicOne); }},
+      {"getLogicValue of a port's pin", [&] { return logic(out, cdm::kLogicZero); }},
+      {"getPortExtCap", [&] { return sdc->getPortExtCap(out) != nullptr; }},
+      {"getPortExtWireCap",
+       [&] { return sdc->getPortExtWireCap(out, RiseFall::fall_, MinMax::min_) > 0.0f; }},
+      {"getInputDrive", [&] { return sdc->getInputDrive(in) != nullptr; }},
+      {"getMaxFanoutConstraint",
+       [&] { return sdc->design_rule_mgr.getMaxFanoutConstraint(out) == 5.0f; }},
+      {"isSourceIdealPin", [&] { return sdc->isSourceIdealPin(design->FindPin("in")); }},
+      {"getInputDelays", [&] { return sdc->getInputDelays(design->FindPin("in")) != nullptr; }},
+      {"getOutputDelays", [&] { return sdc->getOutputDelays(design->FindPin("out")) != nullptr; }},
+      {"getClocks", [&] { return !sdc->getClocks().empty(); }},
+  };
+  Load(Netlist("other_top"), "other_top");
+  for (const auto& [accessor, answers] : accessors) {
+    Relink("other_top");
+    EXPECT_FALSE(answers()) << accessor << " while another design is current";
+    Relink("mine_top");
+    EXPECT_TRUE(answers()) << accessor << " once its design is current again";
+  }
 }
 
 }  // namespace
