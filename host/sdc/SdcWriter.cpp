@@ -114,6 +114,9 @@ std::string SdcWriter::Object(const query::ObjectRef& ref) {
 
 std::string SdcWriter::Query(query::ObjectKind kind, const std::vector<std::string>& names) {
   if (kind == K::kDesign) return "[current_design]";
+  // No names: an empty list, as a query without patterns would get every
+  // object of the kind.
+  if (names.empty()) return "{}";
   if (names.size() == 1) return "[" + QueryCommand(kind) + " " + Quote(names.front()) + "]";
   std::vector<const char*> argv;
   for (const std::string& name : names) argv.push_back(name.c_str());
