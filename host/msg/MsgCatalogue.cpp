@@ -26,6 +26,9 @@ const CatalogueEntry kCatalogue[] = {
     {SDC_007, Severity::kWarning,
      "%s: clock '%s' is replaced by '%s' on all its sources; it is removed with the "
      "constraints relative to it."},
+    {SET_LOAD_001, Severity::kWarning,
+     "%s: the load %s is negative; it is kept as given and lowers the capacitance of what it "
+     "is set on."},
     {STA_001, Severity::kWarning,
      "Combinational loop cut at the arc from '%s' to '%s'; the loop's pins: %s."},
     {STA_002, Severity::kWarning,

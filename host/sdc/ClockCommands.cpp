@@ -61,7 +61,9 @@ class CreateClockCmd : public SdcCommand {
   bool Run(SdcStore& store) override {
     if (!Need("period")) return false;
     const double period = NumberOf("period");
-    if (!(period > 0.0)) return Fail("the period must be above 0");
+    // Kept in seconds as a float: a period too small for one is 0 there.
+    if (!(period > 0.0) || !(Si(period, SdcUnits::kTime) > 0.0f))
+      return Fail("the period must be above 0");
     std::vector<double> waveform =
         Has("waveform") ? NumbersOf("waveform") : std::vector<double>{0.0, period / 2.0};
     if (waveform.size() < 2 || waveform.size() % 2 != 0)
@@ -306,6 +308,7 @@ class SetClockTransitionCmd : public SdcCommand {
  protected:
   bool Run(SdcStore& store) override {
     if (!Need("transition") || !Need("clock_list")) return false;
+    if (NumberOf("transition") < 0.0) return Fail("the transition must not be negative");
     std::vector<query::ObjectRef> objects;
     if (!ObjectsOf("clock_list", {K::kClock}, objects)) return false;
     for (Clock* clock : ClocksOf(objects))

@@ -1,6 +1,7 @@
 // set_false_path, set_multicycle_path, set_max_delay, set_min_delay,
 // group_path and set_disable_timing.
 #include <algorithm>
+#include <cmath>
 
 #include "cmdlib/CommandState.h"
 #include "cmdlib/HostCommands.h"
@@ -64,7 +65,10 @@ class ExceptionCmd : public SdcCommand {
     exception.comment = TextOf("comment");
     if (type_ == Type::kMulticyclePath) {
       if (!Need("path_multiplier")) return false;
-      exception.value = static_cast<float>(NumberOf("path_multiplier"));
+      const double cycles = NumberOf("path_multiplier");
+      if (cycles < 0.0 || cycles != std::floor(cycles))
+        return Fail("the path multiplier must be a whole number of cycles, 0 or more");
+      exception.value = static_cast<float>(cycles);
       exception.start = Has("start");
       exception.end = Has("end");
       if (exception.start && exception.end) return Fail("-start and -end exclude each other");

@@ -1,8 +1,12 @@
 // set_load, set_port_fanout_number and set_fanout_load.
+#include <cstdio>
+
 #include "cmdlib/HostCommands.h"
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Port.h"
+#include "msg/HostMsg.h"
 #include "sdc/SdcCommand.h"
+#include "sdc/SdcSource.h"
 
 namespace sta::sdc {
 namespace {
@@ -28,6 +32,13 @@ class SetLoadCmd : public SdcCommand {
     const float farads = Si(NumberOf("value"), SdcUnits::kCapacitance);
     std::vector<query::ObjectRef> objects;
     if (!ObjectsOf("objects", {K::kPort, K::kNet}, objects)) return false;
+    // A negative load takes capacitance off, and is kept as given; as it is
+    // more often a slip, it is said.
+    if (farads < 0.0f && !objects.empty()) {
+      char shown[32];
+      std::snprintf(shown, sizeof shown, "%g", NumberOf("value"));
+      msg::HostMsg(SET_LOAD_001, {name(), shown}, SdcSource::Where());
+    }
     const bool wire = Has("wire_load"), pin = Has("pin_load") || !wire;
     for (const query::ObjectRef& ref : objects) {
       if (ref.kind == K::kPort) {
@@ -78,6 +89,7 @@ class SetFanoutLoadCmd : public SdcCommand {
  protected:
   bool Run(SdcStore& store) override {
     if (!Need("value") || !Need("port_list")) return false;
+    if (NumberOf("value") < 0.0) return Fail("the fanout load must not be negative");
     std::vector<query::ObjectRef> objects;
     if (!ObjectsOf("port_list", {K::kPort}, objects)) return false;
     const float value = static_cast<float>(NumberOf("value"));

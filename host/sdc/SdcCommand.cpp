@@ -2,6 +2,11 @@
 
 #include <boost/any.hpp>
 
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <cstdio>
+
 #include "cmdlib/CommandState.h"
 
 #include "hostapi/cdm/DbManager.h"
@@ -28,7 +33,7 @@ int SdcCommand::exec() {
     return 1;
   }
   store_ = &store;
-  const bool ok = Run(store);
+  const bool ok = NumbersInRange() && Run(store);
   store_ = nullptr;
   return ok ? 0 : 1;
 }
@@ -76,6 +81,30 @@ std::vector<double> SdcCommand::NumbersOf(const char* option) {
   boost::any value;
   return getOptionValue(option, value) ? boost::any_cast<std::vector<double>>(value)
                                        : std::vector<double>();
+}
+
+bool SdcCommand::NumbersInRange() {
+  // Every value is kept as a float in SI: the largest unit in force bounds
+  // what fits.
+  double largest_scale = 1.0;
+  for (int q = 0; q < SdcUnits::kQuantityCount; ++q)
+    largest_scale =
+        std::max(largest_scale, store_->Units().Scale(static_cast<SdcUnits::Quantity>(q)));
+  for (const OptionDecl& decl : state().options) {
+    if (decl.type != ValueType::kDouble && decl.type != ValueType::kDoubleList) continue;
+    if (!Has(decl.name.c_str())) continue;
+    const std::vector<double> values = decl.type == ValueType::kDouble
+                                           ? std::vector<double>{NumberOf(decl.name.c_str())}
+                                           : NumbersOf(decl.name.c_str());
+    for (double value : values) {
+      if (std::isfinite(value) && std::fabs(value) * largest_scale <= FLT_MAX) continue;
+      char shown[32];
+      std::snprintf(shown, sizeof shown, "%g", value);
+      return Fail("option '" + std::string(decl.positional ? "" : "-") + decl.name +
+                  "' expects a finite number within range, got '" + shown + "'");
+    }
+  }
+  return true;
 }
 
 bool SdcCommand::Need(const char* option) {

@@ -68,6 +68,11 @@ class SdcCommand : public CommonCmd {
   void WarnUnknown(const std::string& what, const std::string& name);
 
   SdcStore* store_ = nullptr;  // while Run runs
+
+ private:
+  // False, after Fail, when a number given is not finite or too large to
+  // keep in SI.
+  bool NumbersInRange();
 };
 
 }  // namespace sta::sdc
