@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 
 #include "hostapi/cdm/DbManager.h"
@@ -117,8 +118,13 @@ bool SdcUnits::Set(Quantity quantity, const std::string& text, std::string& erro
     return false;
   }
   user_scale_[quantity] = multiplier * scale;
+  // The fewest digits that read back to the same multiplier, so that
+  // write_sdc gives back the unit it was given.
   char number[32];
-  std::snprintf(number, sizeof number, "%g", multiplier);
+  for (int digits = 6; digits <= 17; ++digits) {
+    std::snprintf(number, sizeof number, "%.*g", digits, multiplier);
+    if (std::strtod(number, nullptr) == multiplier) break;
+  }
   user_text_[quantity] = number + shown_prefix + info.shown;
   return true;
 }

@@ -18,6 +18,8 @@ TEST(SdcUnitsTest, UnitsReadWithOrWithoutANumberAndAPrefix) {
   ASSERT_TRUE(units.Set(SdcUnits::kCapacitance, "10fF", error)) << error;
   EXPECT_DOUBLE_EQ(units.Scale(SdcUnits::kCapacitance), 1e-14);
   EXPECT_EQ(units.UserText(SdcUnits::kCapacitance), "10fF");
+  ASSERT_TRUE(units.Set(SdcUnits::kTime, "1.23456789ns", error)) << error;
+  EXPECT_EQ(units.UserText(SdcUnits::kTime), "1.23456789ns");            // written back as given
   ASSERT_TRUE(units.Set(SdcUnits::kCapacitance, "ff", error)) << error;  // femto farad
   EXPECT_DOUBLE_EQ(units.Scale(SdcUnits::kCapacitance), 1e-15);
   ASSERT_TRUE(units.Set(SdcUnits::kResistance, "kOhm", error)) << error;
