@@ -24,7 +24,9 @@ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=
   -DKELVO_FUZZ=ON -DKELVO_BUILD_TESTS=OFF -DKELVO_BUILD_BENCH=OFF "${launcher[@]}" >/dev/null
 cmake --build build-fuzz -j"$(nproc)" --target "${harnesses[@]/#/fuzz_}"
 
-options=(-max_total_time="$seconds" -max_len=65536 -timeout=20 -rss_limit_mb=2048
+# FUZZ_SEED fixes libFuzzer's seed (CI sets it, so that a run it makes is
+# the same run each time); unset or 0, a new seed each run.
+options=(-seed="${FUZZ_SEED:-0}" -max_total_time="$seconds" -max_len=65536 -timeout=20 -rss_limit_mb=2048
   -print_final_stats=1 -close_fd_mask=1)
 if [ "${FUZZ_KEEP_GOING:-0}" = 1 ]; then
   options+=(-fork=1 -ignore_crashes=1 -ignore_timeouts=1 -ignore_ooms=1)
