@@ -3,22 +3,16 @@
 
 #include <string>
 
+#include "FuzzInput.h"
 #include "FuzzTargets.h"
 #include "io/FileLoader.h"
 
 namespace fuzz {
 
 std::string FuzzLoader(std::string_view input) {
-  // The bytes as a file of their own, in memory.
-  const int fd = memfd_create("fuzz_input", MFD_CLOEXEC);
+  std::string path;
+  const int fd = InputAsFile(input, path);
   if (fd < 0) return std::string();
-  size_t written = 0;
-  while (written < input.size()) {
-    const ssize_t got = write(fd, input.data() + written, input.size() - written);
-    if (got <= 0) break;
-    written += static_cast<size_t>(got);
-  }
-  const std::string path = "/proc/self/fd/" + std::to_string(fd);
   std::string text, error;
   io::LoadOptions options;
   options.max_bytes = 1 << 24;

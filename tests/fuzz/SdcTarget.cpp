@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 
+#include "FuzzInput.h"
 #include "FuzzTargets.h"
 #include "cmdlib/HostCommands.h"
 #include "cmdlib/TclBinding.h"
@@ -80,15 +81,9 @@ Tcl_Interp* Interp() {
 
 std::string FuzzSdc(std::string_view input) {
   Tcl_Interp* interp = Interp();
-  const int fd = memfd_create("fuzz_input", MFD_CLOEXEC);
+  std::string path;
+  const int fd = InputAsFile(input, path);
   if (fd < 0) return std::string();
-  size_t written = 0;
-  while (written < input.size()) {
-    const ssize_t got = write(fd, input.data() + written, input.size() - written);
-    if (got <= 0) break;
-    written += static_cast<size_t>(got);
-  }
-  const std::string path = "/proc/self/fd/" + std::to_string(fd);
   // At most 100,000 commands an input, loops included.
   Tcl_Eval(interp, "info cmdcount");
   int done = 0;
