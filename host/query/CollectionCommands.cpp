@@ -45,7 +45,7 @@ class CollectionCmd : public CommonCmd {
                std::vector<ObjectRef>& objects, bool quiet = false) {
     ObjectArgs args;
     std::string error;
-    if (!ResolveOption(*this, option, kinds, MatchOptions{}, '/', args, error)) {
+    if (!ResolveOption(*this, option, kinds, MatchOptions{}, CurrentSeparator(), args, error)) {
       SetTclError(name() + ": " + error);
       return false;
     }

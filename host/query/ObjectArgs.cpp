@@ -6,8 +6,11 @@
 #include "hostapi/cdm/DbManager.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Root.h"
+#include "hostapi/sta/SdcMain.h"
+#include "hostapi/sta/SdcMgr.h"
 #include "query/Collection.h"
 #include "query/ObjectFinder.h"
+#include "sdc/SdcStore.h"
 
 namespace query {
 namespace {
@@ -64,13 +67,13 @@ void TakeRefs(const std::vector<ObjectRef>& refs, const std::vector<ObjectKind>&
   }
 }
 
-bool ResolveName(std::string name, const std::vector<ObjectKind>& kinds,
+bool ResolveName(const std::string& name, const std::vector<ObjectKind>& kinds,
                  const MatchOptions& options, char separator, ObjectArgs& args,
                  std::string& error) {
-  if (separator != '/') std::replace(name.begin(), name.end(), separator, '/');
+  const std::string path = WithDatabaseSeparator(name, separator);
   for (ObjectKind kind : kinds) {
     std::vector<ObjectRef> found;
-    if (!FindAs(kind, name, options, found, error)) return false;
+    if (!FindAs(kind, IsHierarchicalKind(kind) ? path : name, options, found, error)) return false;
     if (!found.empty()) {
       args.objects.insert(args.objects.end(), found.begin(), found.end());
       return true;
@@ -103,6 +106,20 @@ bool ResolveValue(Tcl_Obj* value, const std::vector<ObjectKind>& kinds, const Ma
     }
   }
   return true;
+}
+
+char CurrentSeparator() {
+  if (!cdm::DbManager::GetCurrentDesign()) return '/';
+  return sta::sdc::SdcMain::getOrCreateSdcMgr(nullptr)->store().HierarchySeparator();
+}
+
+bool IsHierarchicalKind(ObjectKind kind) {
+  return kind == ObjectKind::kCell || kind == ObjectKind::kNet || kind == ObjectKind::kPin;
+}
+
+std::string WithDatabaseSeparator(std::string name, char separator) {
+  if (separator != '/') std::replace(name.begin(), name.end(), separator, '/');
+  return name;
 }
 
 int OptionUses(CommonCmd& command, const std::string& option) {

@@ -24,8 +24,9 @@ struct ObjectArgs {
   std::vector<ObjectRef> wrong_kind;
 };
 
-// `separator`: the hierarchy separator names are written with ("/" is the
-// database's).
+// `separator`: the hierarchy separator names of cells, nets and pins are
+// written with ("/" is the database's, and is taken as well). Names of
+// ports, clocks, libraries and designs are taken as written.
 bool ResolveValue(Tcl_Obj* value, const std::vector<ObjectKind>& kinds, const MatchOptions& options,
                   char separator, ObjectArgs& args, std::string& error);
 
@@ -34,6 +35,16 @@ bool ResolveValue(Tcl_Obj* value, const std::vector<ObjectKind>& kinds, const Ma
 bool ResolveOption(CommonCmd& command, const std::string& option,
                    const std::vector<ObjectKind>& kinds, const MatchOptions& options,
                    char separator, ObjectArgs& args, std::string& error, int use = -1);
+
+// The hierarchy separator set_hierarchy_separator gave the current
+// design's constraints; "/" by default and without a design.
+char CurrentSeparator();
+
+// Whether names of `kind` run through the hierarchy (cells, nets, pins).
+bool IsHierarchicalKind(ObjectKind kind);
+
+// `name` with every `separator` replaced by the database's "/".
+std::string WithDatabaseSeparator(std::string name, char separator);
 
 // How many times the option was given in the call in progress.
 int OptionUses(CommonCmd& command, const std::string& option);

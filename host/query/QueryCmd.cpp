@@ -96,9 +96,11 @@ int QueryCmd::exec() {
 
   std::vector<ObjectRef> found;
   std::string error;
+  const char separator = CurrentSeparator();
   if (getOptionCount("of_objects") > 0) {
     ObjectArgs args;
-    if (!ResolveOption(*this, "of_objects", shape_.of_kinds, MatchOptions{}, '/', args, error)) {
+    if (!ResolveOption(*this, "of_objects", shape_.of_kinds, MatchOptions{}, separator, args,
+                       error)) {
       SetTclError(name() + ": " + error);
       return 1;
     }
@@ -128,7 +130,11 @@ int QueryCmd::exec() {
     if (all) patterns.push_back(AllPattern());
     for (const std::string& pattern : patterns) {
       const size_t before = found.size();
-      if (!Find(design, pattern, options, found, error)) {
+      // Hierarchical names may be written with set_hierarchy_separator's
+      // character; regular expressions are taken as written.
+      const bool translate = shape_.hierarchical && !options.regexp;
+      if (!Find(design, translate ? WithDatabaseSeparator(pattern, separator) : pattern, options,
+                found, error)) {
         SetTclError(name() + ": " + error);
         return 1;
       }

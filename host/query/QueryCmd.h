@@ -15,7 +15,7 @@ class QueryCmd : public CommonCmd {
  public:
   struct Shape {
     const char* plural;                // "cells": the word of the no-match warning
-    bool hierarchical;                 // takes -hierarchical
+    bool hierarchical;                 // takes -hierarchical; names run through levels
     bool needs_design;                 // design objects rather than library objects
     std::vector<ObjectKind> of_kinds;  // what -of_objects takes; empty: no -of_objects
   };

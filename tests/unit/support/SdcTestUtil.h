@@ -4,10 +4,13 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <tcl.h>
 
 #include <string>
 #include <vector>
 
+#include "cmdlib/HostCommands.h"
+#include "cmdlib/TclBinding.h"
 #include "db/Linker.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DbManager.h"
@@ -18,6 +21,7 @@
 #include "hostapi/sta/SdcMain.h"
 #include "hostapi/sta/SdcMgr.h"
 #include "liberty/LibertyReader.h"
+#include "msg/ResultChannel.h"
 #include "sdc/SdcStore.h"
 #include "verilog/VerilogReader.h"
 
@@ -66,5 +70,45 @@ class SdcTest : public ::testing::Test {
     return pin;
   }
 };
+
+// Runs commands through the shell's own binding, as the prompt and read_sdc
+// do. Messages and printed text are caught while a test runs.
+class SdcShellTest : public SdcTest {
+ protected:
+  static void SetUpTestSuite() {
+    cmdlib::CreateHostCommands();
+    if (shell_) return;
+    shell_ = Tcl_CreateInterp();
+    cmdlib::BindCommands(shell_);
+  }
+  void SetUp() override {
+    msg::PushResultSink([this](std::string_view text) { printed_ += text; });
+  }
+  void TearDown() override { msg::PopResultSink(); }
+
+  // The result of `script`; an error fails the test.
+  std::string Eval(const std::string& script) {
+    const int status = Tcl_Eval(shell_, script.c_str());
+    EXPECT_EQ(status, TCL_OK) << script << ": " << Tcl_GetStringResult(shell_);
+    return Tcl_GetStringResult(shell_);
+  }
+  // The error message of `script`; success fails the test.
+  std::string Error(const std::string& script) {
+    const int status = Tcl_Eval(shell_, script.c_str());
+    EXPECT_EQ(status, TCL_ERROR) << script << " succeeded: " << Tcl_GetStringResult(shell_);
+    return Tcl_GetStringResult(shell_);
+  }
+  // What was printed (messages included) since the last call.
+  std::string Printed() {
+    std::string text;
+    text.swap(printed_);
+    return text;
+  }
+
+  static Tcl_Interp* shell_;
+  std::string printed_;
+};
+
+inline Tcl_Interp* SdcShellTest::shell_ = nullptr;
 
 }  // namespace sdctest
