@@ -35,7 +35,11 @@ class CurrentDesignCmd : public CommonCmd {
       return 1;
     }
     if (!cdm::IsLinked(design)) return LinkAndReport(*this, design);
-    if (design != root->GetCurrentDesign()) cdm::ElaborateHierarchy(root, design);
+    std::string error;
+    if (design != root->GetCurrentDesign() && !cdm::ElaborateHierarchy(root, design, error)) {
+      SetTclError("current_design: " + error);
+      return 1;
+    }
     SetTclResult(design->Name());
     return 0;
   }

@@ -25,32 +25,107 @@ uint32_t FindRoot(PodArray<uint32_t>& parent, uint32_t item) {
 
 }  // namespace
 
+// What the copies below one instance of a design add up to (the design's
+// own objects not counted). Sums saturate: a small file may describe
+// more than fits in 64 bits.
+struct Elaboration::Totals {
+  uint64_t copies = 0;
+  uint64_t cells = 0;
+  uint64_t nets = 0;
+  uint64_t pins = 0;
+  uint64_t vertices = 0;
+};
+
+namespace {
+
+constexpr uint64_t kSaturated = uint64_t{1} << 62;
+
+uint64_t Add(uint64_t a, uint64_t b) {
+  return a + b > kSaturated ? kSaturated : a + b;
+}
+
+// The vertices of a netlist's own leaf cells: one per pin, two per inout.
+uint64_t LeafVertices(const Netlist* netlist) {
+  uint64_t count = 0;
+  for (uint32_t i = 0; i < netlist->CellCount(); ++i) {
+    if (netlist->Cells()[i].GetRefDesign()) continue;
+    uint32_t first = netlist->CellFirstPin(i);
+    for (uint32_t p = first; p < first + netlist->CellPinCount(i); ++p) {
+      const Pin* pin = netlist->PinAt(p);
+      count += pin->IsNetDriver() && pin->IsNetLoad() ? 2 : 1;
+    }
+  }
+  return count;
+}
+
+bool Refuse(const char* what, uint64_t count, uint64_t limit, const Design* top,
+            std::string& error) {
+  if (count <= limit) return true;
+  error = "design '" + top->Name() + "' would elaborate into " +
+          (count >= kSaturated ? "more than 2^62" : std::to_string(count)) + " " + what +
+          ", more than the " + std::to_string(limit) + " the database can number";
+  return false;
+}
+
+}  // namespace
+
 Elaboration::Elaboration(Design* top) : top_(top) {}
 
 Elaboration::~Elaboration() = default;
 
-size_t Elaboration::ReserveHint(const Netlist* top) {
-  // The pins of the whole hierarchy, each module counted once per
-  // instance: a bound on the vertices (inout pins aside) that spares the
-  // growth copies. Post-order without recursion: modules may nest deeply.
-  std::unordered_map<const Design*, size_t> pins;
-  std::vector<std::pair<const Design*, uint32_t>> stack{{top->GetDesign(), 0}};
+bool Elaboration::Plan(Totals& whole, std::string& error) {
+  // Post-order over the designs below the top, without recursion: modules
+  // may nest deeply. Each definition is visited once, however often used.
+  struct Counts {
+    Totals below;
+    uint64_t leaf_vertices = 0;
+  };
+  std::unordered_map<const Design*, Counts> counts;
+  std::vector<std::pair<Design*, uint32_t>> stack{{top_, 0}};
+  NetlistEditor::IndexHierarchicalCells(top_->GetNetlist());
   while (!stack.empty()) {
-    const Design* design = stack.back().first;
+    Design* design = stack.back().first;
     const Netlist* netlist = design->GetNetlist();
     uint32_t index = stack.back().second++;
     if (index < netlist->CellCount()) {
-      const Design* child = netlist->Cells()[index].GetRefDesign();
-      if (child && !pins.count(child)) stack.emplace_back(child, 0);
+      Design* child = netlist->Cells()[index].GetRefDesign();
+      // Marked when first met; link has refused hierarchies that recurse.
+      if (child && counts.emplace(child, Counts()).second) {
+        NetlistEditor::IndexHierarchicalCells(child->GetNetlist());
+        stack.emplace_back(child, 0);
+      }
       continue;
     }
-    size_t sum = netlist->PinCount();
-    for (const Cell& cell : netlist->Cells())
-      if (const Design* child = cell.GetRefDesign()) sum += pins[child];
-    pins[design] = sum;
+    Counts own;
+    own.leaf_vertices = LeafVertices(netlist);
+    for (const Cell& cell : netlist->Cells()) {
+      const Design* child = cell.GetRefDesign();
+      if (!child) continue;
+      const Netlist* definition = child->GetNetlist();
+      const Counts& sub = counts[child];
+      Totals& t = own.below;
+      t.copies = Add(t.copies, Add(1, sub.below.copies));
+      t.cells = Add(t.cells, Add(definition->CellCount(), sub.below.cells));
+      t.nets = Add(t.nets, Add(definition->NetCount(), sub.below.nets));
+      t.pins = Add(t.pins, Add(definition->PinCount(), sub.below.pins));
+      t.vertices = Add(t.vertices, Add(sub.leaf_vertices, sub.below.vertices));
+    }
+    counts[design] = own;
     stack.pop_back();
   }
-  return pins[top->GetDesign()];
+  const Netlist* top = top_->GetNetlist();
+  const Counts& top_counts = counts[top_];
+  whole = top_counts.below;
+  uint64_t top_port_vertices = 0;
+  for (uint32_t i = 0; i < top->PortPinCount(); ++i) {
+    const Pin* pin = top->PinAt(i);
+    top_port_vertices += pin->GetDirection() == kDirInout ? 2 : 1;
+  }
+  whole.vertices = Add(whole.vertices, Add(top_counts.leaf_vertices, top_port_vertices));
+  const uint64_t limit = UINT32_MAX - 1;
+  return Refuse("hierarchical instances", whole.copies, limit, top_, error) &&
+         Refuse("nets", Add(whole.nets, top->NetCount()), limit, top_, error) &&
+         Refuse("timing vertices", whole.vertices, limit, top_, error);
 }
 
 bool Elaboration::VertexDrives(uint32_t id) const {
@@ -70,13 +145,41 @@ void Elaboration::NumberPins(Netlist* netlist, uint32_t first, uint32_t count) {
   }
 }
 
-void Elaboration::Build() {
+void Elaboration::MakeChildren(Netlist* netlist) {
+  NetlistEditor::SetFirstChild(netlist, static_cast<uint32_t>(copies_.size()));
+  for (Cell& cell : netlist->Cells()) {
+    Design* design = cell.GetRefDesign();
+    if (!design) continue;
+    // Each copy's objects follow the previous copy's in the arrays.
+    Cell* cells = cells_.get();
+    Net* nets = nets_.get();
+    Pin* pins = pins_.get();
+    if (copies_.size()) {
+      const Netlist& last = copies_[copies_.size() - 1];
+      cells = last.Cells().end();
+      nets = last.Nets().end();
+      pins = last.PinAt(last.PinCount());
+    }
+    Netlist* copy = copies_.Emplace(*design->GetNetlist(), &cell, this, cells, nets, pins);
+    NetlistEditor::InitInstance(copy);
+  }
+}
+
+bool Elaboration::Build(std::string& error) {
+  Totals totals;
+  if (!Plan(totals, error)) return false;
+  copies_.Reserve(totals.copies);
+  cells_ = ObjectArray<Cell>(totals.cells);
+  nets_ = ObjectArray<Net>(totals.nets);
+  pins_ = ObjectArray<Pin>(totals.pins);
   Netlist* top = top_->GetNetlist();
   NetlistEditor::AttachTop(top, this);
+  vertices_.reserve(totals.vertices + 1);
   vertices_.assign(1, nullptr);
-  vertices_.reserve(ReserveHint(top) + 1);
+  netlists_.reserve(totals.copies + 1);
   netlists_.assign(1, top);
   NumberPins(top, 0, top->PortPinCount());
+  MakeChildren(top);
   // Depth first, each copy right after its cell, as a deep cell walk goes.
   struct Frame {
     Netlist* netlist;
@@ -92,45 +195,43 @@ void Elaboration::Build() {
     }
     ++stack.back().next_cell;
     Cell& cell = netlist->Cells()[index];
-    Design* design = cell.GetRefDesign();
-    if (!design) {
+    Netlist* copy = netlist->ChildOf(&cell);
+    if (!copy) {
       NumberPins(netlist, netlist->CellFirstPin(index), netlist->CellPinCount(index));
       continue;
     }
-    instances_.push_back(NetlistEditor::MakeInstance(*design->GetNetlist(), &cell, this));
-    Netlist* copy = instances_.back().get();
     netlists_.push_back(copy);
+    MakeChildren(copy);
     stack.push_back(Frame{copy, 0});
   }
-  vertices_.shrink_to_fit();
   BuildFlatNets();
+  return true;
+}
+
+uint32_t Elaboration::GlobalNetIndex(const Net* net) const {
+  const Netlist* top = top_->GetNetlist();
+  if (net->GetNetlist() == top) return top->IndexOf(net);
+  return top->NetCount() + static_cast<uint32_t>(net - nets_.get());
 }
 
 void Elaboration::BuildFlatNets() {
   // Every net of every netlist gets a global number; nets that meet at a
   // hierarchical pin are joined; each class is one flat net.
-  std::unordered_map<const Netlist*, uint32_t> base;
-  uint32_t total = 0;
-  for (Netlist* netlist : netlists_) {
-    base.emplace(netlist, total);
-    total += netlist->NetCount();
-  }
+  const uint32_t total = top_->GetNetlist()->NetCount() + static_cast<uint32_t>(nets_.size());
   PodArray<uint32_t> parent;
   parent.resize(total);
   for (uint32_t i = 0; i < total; ++i) parent[i] = i;
   for (Netlist* netlist : netlists_) {
-    uint32_t outer_base = base[netlist];
     for (Cell& cell : netlist->Cells()) {
       Netlist* child = cell.GetChildNetlist();
       if (!child) continue;
-      uint32_t inner_base = base[child];
       for (uint32_t i = 0; i < cell.PinCount(); ++i) {
         Net* outer = cell.GetPin(i)->GetNet();
         Pin* port_pin = child->PortPin(i);
         Net* inner = port_pin ? port_pin->GetNet() : nullptr;
         if (!outer || !inner) continue;
-        uint32_t a = FindRoot(parent, outer_base + netlist->IndexOf(outer));
-        uint32_t b = FindRoot(parent, inner_base + child->IndexOf(inner));
+        uint32_t a = FindRoot(parent, GlobalNetIndex(outer));
+        uint32_t b = FindRoot(parent, GlobalNetIndex(inner));
         if (a != b) parent[a > b ? a : b] = a < b ? a : b;
       }
     }
@@ -141,9 +242,8 @@ void Elaboration::BuildFlatNets() {
   flat_nets_.reserve(total + 1);
   flat_nets_.assign(1, FlatNetRecord());
   for (Netlist* netlist : netlists_) {
-    uint32_t first = base[netlist];
     for (Net& net : netlist->Nets()) {
-      uint32_t root = FindRoot(parent, first + netlist->IndexOf(&net));
+      uint32_t root = FindRoot(parent, GlobalNetIndex(&net));
       if (!id_of[root]) {
         id_of[root] = static_cast<uint32_t>(flat_nets_.size());
         flat_nets_.push_back(FlatNetRecord());
@@ -188,8 +288,11 @@ void Elaboration::BuildFlatNets() {
 void Elaboration::Release() {
   Netlist* top = top_->GetNetlist();
   NetlistEditor::DetachTop(top);
-  instances_.clear();
   netlists_.clear();
+  copies_ = ObjectArray<Netlist>();
+  cells_ = ObjectArray<Cell>();
+  nets_ = ObjectArray<Net>();
+  pins_ = ObjectArray<Pin>();
   flat_nets_.clear();
   flat_vertices_.clear();
   vertices_.clear();
@@ -198,7 +301,9 @@ void Elaboration::Release() {
 size_t Elaboration::Bytes() const {
   size_t bytes = sizeof(*this) + flat_nets_.capacity() * sizeof(FlatNetRecord) +
                  flat_vertices_.capacity() * sizeof(uint32_t) + vertices_.capacity() * sizeof(Pin*);
-  for (const auto& instance : instances_) bytes += instance->Bytes();
+  bytes += copies_.capacity() * sizeof(Netlist) + cells_.size() * sizeof(Cell) +
+           nets_.size() * sizeof(Net) + pins_.size() * sizeof(Pin) +
+           netlists_.capacity() * sizeof(Netlist*);
   return bytes;
 }
 

@@ -8,8 +8,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
+#include "db/Netlist.h"
 #include "db/PodArray.h"
 
 namespace cdm {
@@ -35,8 +37,9 @@ class Elaboration {
   Elaboration& operator=(const Elaboration&) = delete;
 
   // Builds everything below `top`, whose definition (and those below it)
-  // must be linked.
-  void Build();
+  // must be linked. False with `error`, and nothing built, when the
+  // elaborated design would be too large to number.
+  bool Build(std::string& error);
   // Returns the top's definition to a plain definition: its pins lose their
   // vertices and top-port flags, its nets their flat ids.
   void Release();
@@ -62,18 +65,32 @@ class Elaboration {
   // Whether the vertex drives its net (else it loads it).
   bool VertexDrives(uint32_t id) const;
 
-  // The copies made for the hierarchical cells, in elaboration order.
-  const std::vector<std::unique_ptr<Netlist>>& Instances() const { return instances_; }
+  // The copies made for the hierarchical cells, in elaboration order
+  // (depth first, each copy right after its cell).
+  Span<Netlist* const> Instances() const {
+    return Span<Netlist* const>(netlists_.data() + 1, netlists_.size() - 1);
+  }
+  // The copy of the given number (see NetlistEditor::SetFirstChild).
+  Netlist* Copy(uint32_t number) const { return &copies_[number]; }
   size_t Bytes() const;
 
  private:
-  static size_t ReserveHint(const Netlist* top);
+  struct Totals;
+  bool Plan(Totals& whole, std::string& error);
+  void MakeChildren(Netlist* netlist);
   void NumberPins(Netlist* netlist, uint32_t first, uint32_t count);
   void BuildFlatNets();
+  // Number of a net among all nets of the elaborated design.
+  uint32_t GlobalNetIndex(const Net* net) const;
 
   Design* top_;
   uint64_t generation_ = 0;
-  std::vector<std::unique_ptr<Netlist>> instances_;
+  // The copies and their objects, each in one array made to size: the
+  // copies below one netlist are consecutive (see SetFirstChild).
+  ObjectArray<Netlist> copies_;
+  ObjectArray<Cell> cells_;
+  ObjectArray<Net> nets_;
+  ObjectArray<Pin> pins_;
   std::vector<Netlist*> netlists_;  // the top, then the copies in depth-first order
   PodArray<FlatNetRecord> flat_nets_;
   PodArray<uint32_t> flat_vertices_;

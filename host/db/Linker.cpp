@@ -302,17 +302,20 @@ bool LinkDesign(Root* root, Design* top, std::vector<LinkWarning>& warnings, std
   // Copies of the old elaboration point into definitions about to be rebound.
   root->SetElaboration(nullptr);
   linker.LinkAll(top);
-  ElaborateHierarchy(root, top);
-  return true;
+  return ElaborateHierarchy(root, top, error);
 }
 
-void ElaborateHierarchy(Root* root, Design* top) {
+bool ElaborateHierarchy(Root* root, Design* top, std::string& error) {
   root->SetElaboration(nullptr);
   auto elaboration = std::make_unique<Elaboration>(top);
-  elaboration->Build();
+  if (!elaboration->Build(error)) {
+    root->SetCurrentDesign(nullptr);
+    return false;
+  }
   root->SetElaboration(std::move(elaboration));
   root->SetCurrentDesign(top);
   root->GetElaboration()->SetGeneration(root->ChangeGeneration());
+  return true;
 }
 
 bool IsLinked(const Design* design) {

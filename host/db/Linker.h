@@ -31,10 +31,11 @@ bool LinkDesign(Root* root, Design* top, std::vector<LinkWarning>& warnings, std
 // The same with each warning as one line, "Warning: FILE:LINE: text".
 bool LinkDesign(Root* root, Design* top, std::vector<std::string>& warnings, std::string& error);
 
-// Lays the hierarchy out below `top`: each hierarchical cell gets a netlist
-// of its own (the definition for the first instance of a design, a copy for
-// each further one), pins get their flags and vertex identifiers.
-void ElaborateHierarchy(Root* root, Design* top);
+// Makes `top` the current design and lays the hierarchy out below it: each
+// hierarchical cell gets a copy of its module's definition, nets their flat
+// nets, leaf and top port pins their vertex identifiers. False with `error`
+// when the hierarchy is too large to number; no design is current then.
+bool ElaborateHierarchy(Root* root, Design* top, std::string& error);
 
 // Whether `design` has been linked (its cells are bound).
 bool IsLinked(const Design* design);

@@ -28,7 +28,7 @@ void ForEachNetName(const Design* design, bool deep, const NetNameVisitor& visit
   if (!deep) return;
   const Elaboration* elaboration = top->GetElaboration();
   if (!elaboration || elaboration->Top() != design) return;
-  for (const auto& instance : elaboration->Instances()) VisitNetlist(instance.get(), visit);
+  for (const Netlist* instance : elaboration->Instances()) VisitNetlist(instance, visit);
 }
 
 }  // namespace cdm

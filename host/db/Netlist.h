@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -35,6 +36,8 @@ class Span {
   Span(T* first, size_t count) : first_(first), count_(count) {}
   T* begin() const { return first_; }
   T* end() const { return first_ + count_; }
+  std::reverse_iterator<T*> rbegin() const { return std::reverse_iterator<T*>(end()); }
+  std::reverse_iterator<T*> rend() const { return std::reverse_iterator<T*>(begin()); }
   size_t size() const { return count_; }
   bool empty() const { return count_ == 0; }
   T& operator[](size_t i) const { return first_[i]; }
@@ -48,10 +51,12 @@ class Netlist {
  public:
   // An empty definition of `design`; filled by the reader (NetlistEditor).
   explicit Netlist(Design* design);
-  // The copy of the linked `definition` for `instance` in the elaborated
-  // design: cells, nets and pins of its own, names and connection lists
-  // shared with the definition.
-  Netlist(const Netlist& definition, Cell* instance);
+  // The copy of the linked `definition` for `instance` in `elaboration`:
+  // cells, nets and pins of its own, in the arrays given (as many
+  // default-made objects as the definition has), names and connection
+  // lists shared with the definition.
+  Netlist(const Netlist& definition, Cell* instance, Elaboration* elaboration, Cell* cells,
+          Net* nets, Pin* pins);
   ~Netlist();
   Netlist(const Netlist&) = delete;
   Netlist& operator=(const Netlist&) = delete;
@@ -66,35 +71,33 @@ class Netlist {
   std::string PathPrefix() const;
 
   // Cells in creation order.
-  Span<Cell> Cells() const { return Span<Cell>(cells_.get(), cell_count_); }
+  Span<Cell> Cells() const { return Span<Cell>(cells_, cell_count_); }
   uint32_t CellCount() const { return cell_count_; }
-  uint32_t IndexOf(const Cell* cell) const { return static_cast<uint32_t>(cell - cells_.get()); }
+  uint32_t IndexOf(const Cell* cell) const { return static_cast<uint32_t>(cell - cells_); }
   Cell* FindCell(std::string_view name) const;
   std::string_view CellName(uint32_t index) const;
 
   // Nets in creation order: the named nets, then the tie nets of bare
   // constants. A name merged away by assign finds the surviving net.
-  Span<Net> Nets() const { return Span<Net>(nets_.get(), net_count_); }
+  Span<Net> Nets() const { return Span<Net>(nets_, net_count_); }
   uint32_t NetCount() const { return net_count_; }
-  uint32_t IndexOf(const Net* net) const { return static_cast<uint32_t>(net - nets_.get()); }
+  uint32_t IndexOf(const Net* net) const { return static_cast<uint32_t>(net - nets_); }
   Net* FindNet(std::string_view name) const;
   std::string_view NetName(uint32_t index) const;
   // The tie net of a bare constant in a connection (value 0 or 1); null
   // when the module connects no such constant.
   Net* ConstNet(int value) const;
   bool IsTieNet(const Net* net) const { return IndexOf(net) >= NamedNetCount(); }
-  size_t NamedNetCount() const { return definition_->named_net_count_; }
+  size_t NamedNetCount() const { return Shared().named_net_count; }
   // The pool of the definition's cell and net names.
-  const NamePool& Names() const { return definition_->names_; }
+  const NamePool& Names() const { return Shared().names; }
   // The merged-away names of nets and the nets they stand for.
-  const std::vector<std::pair<uint32_t, uint32_t>>& Aliases() const {
-    return definition_->aliases_;
-  }
+  const std::vector<std::pair<uint32_t, uint32_t>>& Aliases() const { return Shared().aliases; }
 
   // Pins: one per port of the design, in port order, then the cells' pins.
   uint32_t PinCount() const { return pin_count_; }
   Pin* PinAt(uint32_t index) const { return &pins_[index]; }
-  uint32_t IndexOf(const Pin* pin) const { return static_cast<uint32_t>(pin - pins_.get()); }
+  uint32_t IndexOf(const Pin* pin) const { return static_cast<uint32_t>(pin - pins_); }
   Pin* PortPin(uint32_t index) const { return index < port_pin_count_ ? &pins_[index] : nullptr; }
   uint32_t PortPinCount() const { return port_pin_count_; }
   // The pins of the cell at `cell_index`: where they start, how many.
@@ -104,16 +107,17 @@ class Netlist {
 
   // The copy below a hierarchical cell of this netlist; null if none.
   Netlist* ChildOf(const Cell* cell) const;
-  bool IsLinked() const { return definition_->linked_; }
+  bool IsLinked() const { return Shared().linked; }
   // The elaborated design this netlist is part of (its top or a copy);
   // null for a definition outside it.
   Elaboration* GetElaboration() const { return elaboration_; }
 
   // What the reader saw, kept so that link can run again (definitions).
-  ModuleSource& Source() { return source_; }
-  const ModuleSource& Source() const { return definition_->source_; }
+  ModuleSource& Source() { return definition_->definition_data_->source; }
+  const ModuleSource& Source() const { return Shared().source; }
 
-  // Bytes held by the netlist's own arrays (not its children).
+  // Bytes held by the netlist (a copy: its object and its cells, nets and
+  // pins; a definition: also what its copies share).
   size_t Bytes() const;
 
  private:
@@ -121,38 +125,51 @@ class Netlist {
   friend class Net;
   friend class NetlistEditor;
 
+  // What only a definition holds; its copies read it through Shared().
+  struct DefinitionData {
+    ObjectArray<Cell> cells;
+    ObjectArray<Net> nets;
+    ObjectArray<Pin> pins;
+    NamePool names;
+    PodArray<uint32_t> net_pins;                         // pin indices, grouped by net
+    std::vector<std::pair<uint32_t, uint32_t>> aliases;  // name offset, net index
+    uint32_t named_net_count = 0;
+    uint32_t tie_net[2] = {UINT32_MAX, UINT32_MAX};
+    // Indices of the cells bound to a design, ascending: the copies made
+    // for them below an elaborated netlist are consecutive, in this order.
+    PodArray<uint32_t> hierarchical_cells;
+    mutable std::unique_ptr<NameIndex> cell_index;
+    mutable std::unique_ptr<NameIndex> net_index;
+    mutable std::unique_ptr<std::string[]> cell_strings;
+    mutable std::unique_ptr<std::string[]> net_strings;
+    ModuleSource source;
+    // References and stub ports of unresolved cells, by name.
+    std::unordered_map<const std::string*, std::unique_ptr<UnresolvedReference>> unresolved;
+    std::unordered_map<const std::string*, std::unique_ptr<Port>> stub_ports;
+    bool linked = false;
+  };
+
+  const DefinitionData& Shared() const { return *definition_->definition_data_; }
   const std::string& CellNameString(uint32_t index) const;
   const std::string& NetNameString(uint32_t index) const;
 
+  // A copy is small: what it shares stays with its definition, and its
+  // objects live in arrays of the elaboration.
   Design* design_;
   Cell* instance_ = nullptr;
   const Netlist* definition_;
-
-  ObjectArray<Cell> cells_;
+  Cell* cells_ = nullptr;
+  Net* nets_ = nullptr;
+  Pin* pins_ = nullptr;
   uint32_t cell_count_ = 0;
-  ObjectArray<Net> nets_;
   uint32_t net_count_ = 0;
-  ObjectArray<Pin> pins_;
   uint32_t pin_count_ = 0;
   uint32_t port_pin_count_ = 0;
-  std::unordered_map<uint32_t, Netlist*> children_;  // cell index -> copy
+  // In the elaborated design, the elaboration's number of the copy below
+  // this netlist's first hierarchical cell.
+  uint32_t first_child_ = 0;
   Elaboration* elaboration_ = nullptr;
-
-  // Shared with the copies: held by the definition only.
-  NamePool names_;
-  PodArray<uint32_t> net_pins_;                         // pin indices, grouped by net
-  std::vector<std::pair<uint32_t, uint32_t>> aliases_;  // name offset, net index
-  uint32_t named_net_count_ = 0;
-  uint32_t tie_net_[2] = {UINT32_MAX, UINT32_MAX};
-  mutable std::unique_ptr<NameIndex> cell_index_;
-  mutable std::unique_ptr<NameIndex> net_index_;
-  mutable std::unique_ptr<std::string[]> cell_strings_;
-  mutable std::unique_ptr<std::string[]> net_strings_;
-  ModuleSource source_;
-  // References and stub ports of unresolved cells, by name.
-  std::unordered_map<const std::string*, std::unique_ptr<UnresolvedReference>> unresolved_;
-  std::unordered_map<const std::string*, std::unique_ptr<Port>> stub_ports_;
-  bool linked_ = false;
+  std::unique_ptr<DefinitionData> definition_data_;  // null in a copy
 };
 
 }  // namespace cdm

@@ -45,16 +45,17 @@ bool NetlistEditor::Fill(Root* root, Netlist* netlist, ModuleDraft&& draft, std:
             " nets, more than the " + std::to_string(Pin::kNetMask - 1) + " a module may have";
     return false;
   }
-  netlist->names_ = std::move(draft.names);
+  netlist->definition_data_->names = std::move(draft.names);
   uint32_t tie_names[2] = {0, 0};
-  if ((tie0 && !netlist->names_.Add("*logic0*", tie_names[0])) ||
-      (tie1 && !netlist->names_.Add("*logic1*", tie_names[1]))) {
+  if ((tie0 && !netlist->definition_data_->names.Add("*logic0*", tie_names[0])) ||
+      (tie1 && !netlist->definition_data_->names.Add("*logic1*", tie_names[1]))) {
     error = "module '" + netlist->GetDesign()->Name() + "' has more names than fit in 1 GiB";
     return false;
   }
-  netlist->names_.ShrinkToFit();
+  netlist->definition_data_->names.ShrinkToFit();
   netlist->cell_count_ = cells;
-  netlist->cells_ = ObjectArray<Cell>(cells);
+  netlist->definition_data_->cells = ObjectArray<Cell>(cells);
+  netlist->cells_ = netlist->definition_data_->cells.get();
   for (uint32_t i = 0; i < cells; ++i) {
     Cell& cell = netlist->cells_[i];
     cell.netlist_ = netlist;
@@ -64,8 +65,9 @@ bool NetlistEditor::Fill(Root* root, Netlist* netlist, ModuleDraft&& draft, std:
   for (auto& entry : draft.cell_attributes)
     netlist->cells_[entry.first].SetAttribute(std::move(entry.second));
   netlist->net_count_ = nets;
-  netlist->named_net_count_ = named;
-  netlist->nets_ = ObjectArray<Net>(nets);
+  netlist->definition_data_->named_net_count = named;
+  netlist->definition_data_->nets = ObjectArray<Net>(nets);
+  netlist->nets_ = netlist->definition_data_->nets.get();
   for (uint32_t i = 0; i < named; ++i) {
     Net& net = netlist->nets_[i];
     net.netlist_ = netlist;
@@ -77,23 +79,23 @@ bool NetlistEditor::Fill(Root* root, Netlist* netlist, ModuleDraft&& draft, std:
     Net& net = netlist->nets_[next];
     net.netlist_ = netlist;
     net.name_const_ = tie_names[value] | (static_cast<uint32_t>(value + 1) << 30);
-    netlist->tie_net_[value] = next++;
+    netlist->definition_data_->tie_net[value] = next++;
   }
-  netlist->aliases_ = std::move(draft.aliases);
-  netlist->source_ = std::move(draft.source);
+  netlist->definition_data_->aliases = std::move(draft.aliases);
+  netlist->definition_data_->source = std::move(draft.source);
   (void)root;
   return true;
 }
 
 UnresolvedReference* NetlistEditor::Unresolved(Netlist* netlist, const std::string* name) {
-  auto& slot = netlist->unresolved_[name];
+  auto& slot = netlist->definition_data_->unresolved[name];
   if (!slot) slot = std::make_unique<UnresolvedReference>(name, netlist->GetDesign()->Owner());
   return slot.get();
 }
 
 Port* NetlistEditor::StubPort(Root* root, Netlist* netlist, const std::string& name) {
   const std::string* interned = root->Intern(name);
-  auto& slot = netlist->stub_ports_[interned];
+  auto& slot = netlist->definition_data_->stub_ports[interned];
   if (!slot) slot = std::make_unique<Port>(interned, kDirInternal);
   return slot.get();
 }
@@ -107,11 +109,12 @@ void NetlistEditor::BindCell(Netlist* netlist, uint32_t index, Reference* ref, i
 }
 
 void NetlistEditor::MakePins(Netlist* netlist, uint32_t count) {
-  netlist->pins_ = ObjectArray<Pin>(count);
+  netlist->definition_data_->pins = ObjectArray<Pin>(count);
+  netlist->pins_ = netlist->definition_data_->pins.get();
   netlist->pin_count_ = count;
   netlist->port_pin_count_ = static_cast<uint32_t>(netlist->GetDesign()->Ports().size());
-  netlist->net_pins_.clear();
-  netlist->linked_ = false;
+  netlist->definition_data_->net_pins.clear();
+  netlist->definition_data_->linked = false;
 }
 
 void NetlistEditor::InitPin(Pin* pin, Port* port, Cell* cell, Netlist* netlist, uint8_t flags) {
@@ -130,7 +133,7 @@ void NetlistEditor::Connect(Pin* pin, uint32_t net_index) {
 
 void NetlistEditor::FinishLink(Netlist* netlist) {
   // Pins grouped by net, each group in pin order: a counting sort.
-  PodArray<uint32_t>& refs = netlist->net_pins_;
+  PodArray<uint32_t>& refs = netlist->definition_data_->net_pins;
   const uint32_t nets = netlist->net_count_;
   std::vector<uint32_t> count(nets + 1, 0);
   uint32_t connected = 0;
@@ -149,7 +152,7 @@ void NetlistEditor::FinishLink(Netlist* netlist) {
   refs.assign(connected, 0);
   for (uint32_t i = 0; i < netlist->pin_count_; ++i)
     if (uint32_t slot = netlist->pins_[i].NetSlot()) refs[count[slot - 1]++] = i;
-  netlist->linked_ = true;
+  netlist->definition_data_->linked = true;
 }
 
 void NetlistEditor::AttachTop(Netlist* top, Elaboration* elaboration) {
@@ -162,7 +165,6 @@ void NetlistEditor::AttachTop(Netlist* top, Elaboration* elaboration) {
 
 void NetlistEditor::DetachTop(Netlist* top) {
   top->elaboration_ = nullptr;
-  top->children_.clear();
   for (uint32_t i = 0; i < top->pin_count_; ++i) top->pins_[i].vertex_id_ = 0;
   for (uint32_t i = 0; i < top->port_pin_count_; ++i) {
     Pin& pin = top->pins_[i];
@@ -171,17 +173,22 @@ void NetlistEditor::DetachTop(Netlist* top) {
   for (uint32_t i = 0; i < top->net_count_; ++i) top->nets_[i].flat_id_ = 0;
 }
 
-std::unique_ptr<Netlist> NetlistEditor::MakeInstance(const Netlist& definition, Cell* cell,
-                                                     Elaboration* elaboration) {
-  auto copy = std::make_unique<Netlist>(definition, cell);
-  copy->elaboration_ = elaboration;
+void NetlistEditor::IndexHierarchicalCells(Netlist* definition) {
+  PodArray<uint32_t>& hierarchical = definition->definition_data_->hierarchical_cells;
+  hierarchical.clear();
+  for (uint32_t i = 0; i < definition->cell_count_; ++i)
+    if (definition->cells_[i].GetRefDesign()) hierarchical.push_back(i);
+}
+
+void NetlistEditor::InitInstance(Netlist* copy) {
   for (uint32_t i = 0; i < copy->port_pin_count_; ++i) {
     Pin& pin = copy->pins_[i];
     SetFlags(&pin, Pin::kPortPin | Pin::kHierarchical | DirectionFlags(pin.GetDirection(), true));
   }
-  Netlist* parent = cell->GetNetlist();
-  parent->children_[parent->IndexOf(cell)] = copy.get();
-  return copy;
+}
+
+void NetlistEditor::SetFirstChild(Netlist* netlist, uint32_t copy_number) {
+  netlist->first_child_ = copy_number;
 }
 
 void NetlistEditor::SetVertexId(Pin* pin, uint32_t id) {

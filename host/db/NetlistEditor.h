@@ -73,8 +73,13 @@ class NetlistEditor {
   // Elaboration.
   static void AttachTop(Netlist* top, Elaboration* elaboration);
   static void DetachTop(Netlist* top);
-  static std::unique_ptr<Netlist> MakeInstance(const Netlist& definition, Cell* cell,
-                                               Elaboration* elaboration);
+  // Keeps, in the definition, which of its cells are bound to designs.
+  static void IndexHierarchicalCells(Netlist* definition);
+  // Marks the port pins of a new copy as hierarchical pins.
+  static void InitInstance(Netlist* copy);
+  // The copies below `netlist`'s hierarchical cells are the elaboration's
+  // copies from `copy_number` on, in cell order.
+  static void SetFirstChild(Netlist* netlist, uint32_t copy_number);
   static void SetVertexId(Pin* pin, uint32_t id);
   static void SetFlatNetId(Net* net, uint32_t id);
   static void SetFlags(Pin* pin, uint8_t flags);

@@ -115,18 +115,16 @@ class PodArray {
 namespace cdm {
 
 // A fixed-size array of objects made once (cells, nets, pins): placed in
-// memory that asks for huge pages, destroyed and freed together.
+// memory that asks for huge pages, destroyed and freed together. Either
+// made whole (`ObjectArray(count)`, each object default-made) or reserved
+// and then filled in order (`Reserve`, `Emplace`).
 template <class T>
 class ObjectArray {
  public:
   ObjectArray() = default;
-  explicit ObjectArray(size_t count) : count_(count) {
-    if (!count) return;
-    void* raw = std::malloc(count * sizeof(T));
-    if (!raw) throw std::bad_alloc();
-    AdviseHugePages(raw, count * sizeof(T));
-    items_ = static_cast<T*>(raw);
-    for (size_t i = 0; i < count; ++i) new (items_ + i) T();
+  explicit ObjectArray(size_t count) {
+    Reserve(count);
+    for (size_t i = 0; i < count; ++i) Emplace();
   }
   ~ObjectArray() { Reset(); }
   ObjectArray(const ObjectArray&) = delete;
@@ -139,22 +137,43 @@ class ObjectArray {
   void Swap(ObjectArray& other) noexcept {
     std::swap(items_, other.items_);
     std::swap(count_, other.count_);
+    std::swap(capacity_, other.capacity_);
+  }
+
+  // Memory for `capacity` objects, none made yet; the array must be empty.
+  void Reserve(size_t capacity) {
+    Reset();
+    if (!capacity) return;
+    void* raw = std::malloc(capacity * sizeof(T));
+    if (!raw) throw std::bad_alloc();
+    AdviseHugePages(raw, capacity * sizeof(T));
+    items_ = static_cast<T*>(raw);
+    capacity_ = capacity;
+  }
+  // Makes the next object in place; there must be room for it.
+  template <class... Args>
+  T* Emplace(Args&&... args) {
+    T* item = new (items_ + count_) T(std::forward<Args>(args)...);
+    ++count_;
+    return item;
   }
 
   T* get() const { return items_; }
   T& operator[](size_t i) const { return items_[i]; }
   size_t size() const { return count_; }
+  size_t capacity() const { return capacity_; }
 
  private:
   void Reset() {
     for (size_t i = count_; i-- > 0;) items_[i].~T();
     std::free(items_);
     items_ = nullptr;
-    count_ = 0;
+    count_ = capacity_ = 0;
   }
 
   T* items_ = nullptr;
   size_t count_ = 0;
+  size_t capacity_ = 0;
 };
 
 }  // namespace cdm

@@ -36,11 +36,11 @@ bool PowerAnalysis::Run(bool keep_nets) {
   CellPower cells(timer_, timer_.Root()->GetDefaultLiberty(), activity_);
   RunNetlist(design->GetNetlist(), cells, keep_nets);
   const auto& instances = elaboration->Instances();
-  for (const auto& instance : instances) RunNetlist(instance.get(), cells, keep_nets);
+  for (const cdm::Netlist* instance : instances) RunNetlist(instance, cells, keep_nets);
   // Children come after their parents: summing from the back gives each
   // hierarchical cell the whole of what lies below it.
   for (auto it = instances.rbegin(); it != instances.rend(); ++it) {
-    const cdm::Netlist* netlist = it->get();
+    const cdm::Netlist* netlist = *it;
     const cdm::Cell* instance = netlist->GetInstance();
     if (!instance) continue;
     cdm::PowerResult sum;

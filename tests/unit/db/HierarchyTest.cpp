@@ -1,5 +1,6 @@
 #include <memory>
 
+#include "db/Elaboration.h"
 #include "db/PathLookup.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/DesignIterators.h"
@@ -121,10 +122,11 @@ TEST_F(DesignTest, CurrentDesignCanMoveDownAndBack) {
   cdm::Design* top = Load(kTwice);
   ASSERT_NE(top, nullptr);
   cdm::Design* pass = root_.FindDesign("pass");
-  cdm::ElaborateHierarchy(&root_, pass);
+  std::string error;
+  ASSERT_TRUE(cdm::ElaborateHierarchy(&root_, pass, error)) << error;
   EXPECT_EQ(CellNames(pass->CellIter()), std::vector<std::string>{"g1"});
   EXPECT_TRUE(pass->FindPin("i")->IsTopPortPin());
-  cdm::ElaborateHierarchy(&root_, top);
+  ASSERT_TRUE(cdm::ElaborateHierarchy(&root_, top, error)) << error;
   EXPECT_FALSE(pass->FindPin("i")->IsTopPortPin());
   EXPECT_EQ(pass->FindPin("i")->GetVertexId(), 0u);
   EXPECT_EQ(CellNames(pass->CellIter()), std::vector<std::string>{"g1"});
@@ -292,3 +294,71 @@ TEST_F(DesignTest, ChangeGenerationMovesOnReadLinkAndCurrentDesign) {
 }
 
 }  // namespace
+
+TEST_F(DesignTest, CopiesOfDifferentModulesBetweenLeafCellsKeepTheirOwnContents) {
+  cdm::Design* top = Load(R"(
+module one (i, o);
+  input i; output o;
+  G g (.A(i), .Y(o));
+endmodule
+module two (i, o);
+  input i; output o;
+  wire t;
+  one u (.i(i), .o(t));
+  G h (.A(t), .Y(o));
+endmodule
+module top (a, y);
+  input a; output y;
+  wire n1, n2, n3, n4;
+  G l1 (.A(a), .Y(n1));
+  two x (.i(n1), .o(n2));
+  G l2 (.A(n2), .Y(n3));
+  one w (.i(n3), .o(n4));
+  two z (.i(n4), .o(y));
+endmodule
+)");
+  ASSERT_NE(top, nullptr);
+  EXPECT_EQ(CellNames(new cdm::DesignCellIterator(top, true, cdm::func<cdm::Cell>)),
+            (std::vector<std::string>{"l1", "x", "x/u", "x/u/g", "x/h", "l2", "w", "w/g", "z",
+                                      "z/u", "z/u/g", "z/h"}));
+  // The chain a -> l1 -> x/u/g -> x/h -> l2 -> w/g -> z/u/g -> z/h -> y:
+  // each stage's output is on the flat net of the next one's input, through
+  // the copies' port pins, and no two stages share one.
+  const char* chain[] = {"l1", "x/u/g", "x/h", "l2", "w/g", "z/u/g", "z/h"};
+  for (size_t i = 0; i + 1 < sizeof(chain) / sizeof(chain[0]); ++i) {
+    cdm::Cell* from = cdm::FindCellByPath(top, chain[i]);
+    cdm::Cell* to = cdm::FindCellByPath(top, chain[i + 1]);
+    ASSERT_NE(from, nullptr) << chain[i];
+    ASSERT_NE(to, nullptr) << chain[i + 1];
+    uint32_t id = from->FindPin("Y")->GetNet()->FlatNetId();
+    EXPECT_EQ(to->FindPin("A")->GetNet()->FlatNetId(), id) << chain[i + 1];
+    EXPECT_NE(from->FindPin("A")->GetNet()->FlatNetId(), id) << chain[i];
+  }
+  EXPECT_EQ(top->FindPin("y")->GetNet()->FlatNetId(),
+            cdm::FindCellByPath(top, "z/h")->FindPin("Y")->GetNet()->FlatNetId());
+}
+
+TEST_F(DesignTest, AHierarchyTooLargeToNumberIsRefusedAtLinkAndASmallerOneLinksAfter) {
+  // 2^40 leaves from a few lines: refused from the module counts, before
+  // anything is made.
+  std::string text = "module m40 (a, y); input a; output y; G g (.A(a), .Y(y)); endmodule\n";
+  for (int level = 39; level >= 0; --level)
+    text += "module m" + std::to_string(level) + " (a, y); input a; output y; wire t; m" +
+            std::to_string(level + 1) + " u0 (.a(a), .y(t)); m" + std::to_string(level + 1) +
+            " u1 (.a(t), .y(y)); endmodule\n";
+  std::vector<std::string> modules;
+  std::string error;
+  ASSERT_TRUE(verilog::ReadVerilogText(&root_, text, "tree.v", modules, error)) << error;
+  EXPECT_FALSE(cdm::LinkDesign(&root_, root_.FindDesign("m0"), warnings_, error));
+  EXPECT_EQ(error,
+            "design 'm0' would elaborate into 2199023255550 hierarchical instances, more than the "
+            "4294967294 the database can number");
+  EXPECT_EQ(root_.GetCurrentDesign(), nullptr);
+  EXPECT_EQ(root_.GetElaboration(), nullptr);
+  // Twelve levels below m28: 4096 leaves.
+  ASSERT_TRUE(cdm::LinkDesign(&root_, root_.FindDesign("m28"), warnings_, error)) << error;
+  EXPECT_EQ(root_.GetCurrentDesign(), root_.FindDesign("m28"));
+  EXPECT_EQ(root_.GetElaboration()->Instances().size(), 8190u);
+  EXPECT_NE(cdm::FindCellByPath(root_.FindDesign("m28"), "u1/u1/u1/u1/u1/u1/u1/u1/u1/u1/u1/u1/g"),
+            nullptr);
+}
