@@ -26,6 +26,7 @@ const CatalogueEntry kCatalogue[] = {
     {SDC_007, Severity::kWarning,
      "%s: clock '%s' is replaced by '%s' on all its sources; it is removed with the "
      "constraints relative to it."},
+    {SDC_008, Severity::kWarning, "%s: port '%s' is no %s port; it is left out."},
     {SET_LOAD_001, Severity::kWarning,
      "%s: the load %s is negative; it is kept as given and lowers the capacitance of what it "
      "is set on."},
