@@ -49,6 +49,7 @@ class PortDelayCmd : public SdcCommand {
     }
     std::vector<query::ObjectRef> objects;
     if (!ObjectsOf("port_pin_list", {K::kPort, K::kPin}, objects)) return false;
+    KeepDirection(objects, input_);
     const float value = Si(NumberOf("delay_value"), SdcUnits::kTime);
     for (cdm::Pin* pin : PinsOf(objects))
       store.SetPortDelay(input_, pin, edge, ref_pin, Edges(), Which(), value, Has("add_delay"),

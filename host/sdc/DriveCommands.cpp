@@ -87,6 +87,7 @@ class SetDrivingCellCmd : public SdcCommand {
       spec.input_transition[1] = Si(NumberOf("input_transition_fall"), SdcUnits::kTime);
     std::vector<query::ObjectRef> objects;
     if (!ObjectsOf("port_list", {K::kPort}, objects)) return false;
+    KeepDirection(objects, true);
     for (const query::ObjectRef& ref : objects)
       store.SetDrivingCell(static_cast<cdm::Port*>(ref.object), Edges(), Which(), spec);
     return true;
@@ -117,6 +118,7 @@ class PortDriveCmd : public SdcCommand {
       return Fail(std::string(value_option) + " must not be negative");
     std::vector<query::ObjectRef> objects;
     if (!ObjectsOf("port_list", {K::kPort}, objects)) return false;
+    KeepDirection(objects, true);
     const float value = Si(NumberOf(value_option), slew_ ? SdcUnits::kTime : SdcUnits::kResistance);
     for (const query::ObjectRef& ref : objects) {
       auto* port = static_cast<cdm::Port*>(ref.object);

@@ -23,6 +23,7 @@ class SetLogicCmd : public SdcCommand {
     if (!Need("port_list")) return false;
     std::vector<query::ObjectRef> objects;
     if (!ObjectsOf("port_list", {K::kPort}, objects)) return false;
+    KeepDirection(objects, true);
     for (const query::ObjectRef& ref : objects)
       store.Port(static_cast<cdm::Port*>(ref.object)).logic = value_;
     store.NoteChange();

@@ -147,6 +147,25 @@ bool SdcCommand::ObjectsOf(const char* option, const std::vector<query::ObjectKi
   return true;
 }
 
+void SdcCommand::KeepDirection(std::vector<query::ObjectRef>& objects, bool input) {
+  std::vector<query::ObjectRef> kept;
+  for (const query::ObjectRef& ref : objects) {
+    const cdm::Port* port = nullptr;
+    if (ref.kind == query::ObjectKind::kPort) {
+      port = static_cast<cdm::Port*>(ref.object);
+    } else if (ref.kind == query::ObjectKind::kPin) {
+      auto* pin = static_cast<cdm::Pin*>(ref.object);
+      if (pin->IsTopPortPin()) port = pin->GetPort();
+    }
+    if (port && !(input ? port->IsInput() : port->IsOutput())) {
+      msg::HostMsg(SDC_008, {name(), port->Name(), input ? "input" : "output"}, SdcSource::Where());
+      continue;
+    }
+    kept.push_back(ref);
+  }
+  objects.swap(kept);
+}
+
 std::vector<cdm::Pin*> SdcCommand::PinsOf(const std::vector<query::ObjectRef>& objects) {
   std::vector<cdm::Pin*> pins;
   cdm::Design* design = cdm::DbManager::GetCurrentDesign();

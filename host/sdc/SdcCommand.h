@@ -60,6 +60,10 @@ class SdcCommand : public CommonCmd {
   // given several times.
   bool ObjectsOf(const char* option, const std::vector<query::ObjectKind>& kinds,
                  std::vector<query::ObjectRef>& objects, int use = -1);
+  // Leaves out, with one warning each, the ports of `objects` (a port's pin
+  // too) that carry no signal in (`input`) or out: the ports of commands
+  // about what comes in from outside, or goes out. Inout ports stay.
+  void KeepDirection(std::vector<query::ObjectRef>& objects, bool input);
   // The pins of ports and pins (a port stands for its pin).
   static std::vector<cdm::Pin*> PinsOf(const std::vector<query::ObjectRef>& objects);
 

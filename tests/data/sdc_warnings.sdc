@@ -13,3 +13,6 @@ set_max_fanout 8 [current_design]
 foreach port {nosuch_a nosuch_b} {
   set_load 0.3 $port
 }
+# Ports of the wrong direction are left out; the others in the list apply.
+set_input_transition 0.1 [get_ports {in1 out1}]
+set_output_delay 2 -clock clk [get_ports {in2 q}]
