@@ -1,5 +1,8 @@
 #include "db/Elaboration.h"
 
+#include <unistd.h>
+
+#include <cstdio>
 #include <unordered_map>
 
 #include "db/Netlist.h"
@@ -44,6 +47,10 @@ uint64_t Add(uint64_t a, uint64_t b) {
   return a + b > kSaturated ? kSaturated : a + b;
 }
 
+uint64_t Times(uint64_t count, uint64_t bytes) {
+  return count > kSaturated / bytes ? kSaturated : count * bytes;
+}
+
 // The vertices of a netlist's own leaf cells: one per pin, two per inout.
 uint64_t LeafVertices(const Netlist* netlist) {
   uint64_t count = 0;
@@ -65,6 +72,12 @@ bool Refuse(const char* what, uint64_t count, uint64_t limit, const Design* top,
           (count >= kSaturated ? "more than 2^62" : std::to_string(count)) + " " + what +
           ", more than the " + std::to_string(limit) + " the database can number";
   return false;
+}
+
+uint64_t PhysicalMemoryBytes() {
+  long pages = sysconf(_SC_PHYS_PAGES);
+  long page_size = sysconf(_SC_PAGE_SIZE);
+  return pages > 0 && page_size > 0 ? static_cast<uint64_t>(pages) * page_size : 0;
 }
 
 }  // namespace
@@ -125,7 +138,29 @@ bool Elaboration::Plan(Totals& whole, std::string& error) {
   const uint64_t limit = UINT32_MAX - 1;
   return Refuse("hierarchical instances", whole.copies, limit, top_, error) &&
          Refuse("nets", Add(whole.nets, top->NetCount()), limit, top_, error) &&
-         Refuse("timing vertices", whole.vertices, limit, top_, error);
+         Refuse("timing vertices", whole.vertices, limit, top_, error) &&
+         FitsInMemory(whole, error);
+}
+
+bool Elaboration::FitsInMemory(const Totals& whole, std::string& error) const {
+  // What the arrays below will take, and the flat-net pass's working
+  // arrays: refused up front, as the pages would otherwise be claimed one
+  // by one until the system ends the process.
+  const uint64_t all_nets = Add(whole.nets, top_->GetNetlist()->NetCount());
+  uint64_t bytes = 0;
+  for (uint64_t part :
+       {Times(whole.copies, sizeof(Netlist) + sizeof(Netlist*)), Times(whole.cells, sizeof(Cell)),
+        Times(whole.nets, sizeof(Net)), Times(whole.pins, sizeof(Pin)),
+        Times(whole.vertices, sizeof(Pin*) + sizeof(uint32_t)),
+        Times(all_nets, 2 * sizeof(uint32_t) + sizeof(FlatNetRecord))})
+    bytes = Add(bytes, part);
+  const uint64_t memory = PhysicalMemoryBytes();
+  if (!memory || bytes <= memory) return true;
+  char text[160];
+  std::snprintf(text, sizeof text, "about %.1f GB to elaborate, more than the %.1f GB of memory",
+                static_cast<double>(bytes) / 1e9, static_cast<double>(memory) / 1e9);
+  error = "design '" + top_->Name() + "' would need " + text + " this machine has";
+  return false;
 }
 
 bool Elaboration::VertexDrives(uint32_t id) const {

@@ -77,6 +77,7 @@ class Elaboration {
  private:
   struct Totals;
   bool Plan(Totals& whole, std::string& error);
+  bool FitsInMemory(const Totals& whole, std::string& error) const;
   void MakeChildren(Netlist* netlist);
   void NumberPins(Netlist* netlist, uint32_t first, uint32_t count);
   void BuildFlatNets();

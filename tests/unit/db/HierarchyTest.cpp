@@ -338,7 +338,7 @@ endmodule
             cdm::FindCellByPath(top, "z/h")->FindPin("Y")->GetNet()->FlatNetId());
 }
 
-TEST_F(DesignTest, AHierarchyTooLargeToNumberIsRefusedAtLinkAndASmallerOneLinksAfter) {
+TEST_F(DesignTest, AHierarchyTooLargeToNumberOrToHoldIsRefusedAtLinkAndASmallerOneLinksAfter) {
   // 2^40 leaves from a few lines: refused from the module counts, before
   // anything is made.
   std::string text = "module m40 (a, y); input a; output y; G g (.A(a), .Y(y)); endmodule\n";
@@ -355,6 +355,12 @@ TEST_F(DesignTest, AHierarchyTooLargeToNumberIsRefusedAtLinkAndASmallerOneLinksA
             "4294967294 the database can number");
   EXPECT_EQ(root_.GetCurrentDesign(), nullptr);
   EXPECT_EQ(root_.GetElaboration(), nullptr);
+  // 29 levels below m11: few enough to number, far too many to hold (some
+  // 500 GB).
+  EXPECT_FALSE(cdm::LinkDesign(&root_, root_.FindDesign("m11"), warnings_, error));
+  EXPECT_EQ(error.rfind("design 'm11' would need about ", 0), 0u) << error;
+  EXPECT_NE(error.find(" GB of memory this machine has"), std::string::npos) << error;
+  EXPECT_EQ(root_.GetCurrentDesign(), nullptr);
   // Twelve levels below m28: 4096 leaves.
   ASSERT_TRUE(cdm::LinkDesign(&root_, root_.FindDesign("m28"), warnings_, error)) << error;
   EXPECT_EQ(root_.GetCurrentDesign(), root_.FindDesign("m28"));
