@@ -295,6 +295,9 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
     for (int r : output.related)
       share[r] = total > 0.0 ? share[r] / total : 1.0 / static_cast<double>(output.related.size());
 
+    // A group's rise and fall energies are each charged at the whole
+    // toggle rate (their sum per transition), as the established timing
+    // engines read the tables; see docs/power.md.
     for (size_t g = 0; g < plan.groups.size(); ++g) {
       const Group& group = plan.groups[g];
       if (group.owner != output.slot || !group.on_output || weight[g] == 0.0) continue;
@@ -305,7 +308,7 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
         args.in_slew = plan.scale.ToLibrary(slew(group.related, group.slew_edge[edge]));
         args.related_slew = args.in_slew;
         args.load = load(output.slot, edge);
-        energy += 0.5 * sta::TableValue(*group.model[edge]->GetTable(), args);
+        energy += sta::TableValue(*group.model[edge]->GetTable(), args);
       }
       const double part = group.related >= 0 ? share[group.related] : 1.0;
       internal += acts_[output.slot].rate * part * weight[g] * energy;
@@ -333,7 +336,7 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
       sta::TableArgs args;
       args.in_slew = plan.scale.ToLibrary(slew(group.owner, group.slew_edge[edge]));
       args.related_slew = args.in_slew;
-      energy += 0.5 * sta::TableValue(*group.model[edge]->GetTable(), args);
+      energy += sta::TableValue(*group.model[edge]->GetTable(), args);
     }
     internal += acts_[group.owner].rate * weight[g] * energy;
   }

@@ -1,9 +1,10 @@
 # The group table over power_small.lib: clk toggles twice a period (10 ns),
 # every other net 0.1 times a period with probability 0.5 (the inputs'
-# default, which the buffers, the inverter and the flop pass on). By hand:
-# f1 CK 2e8 x 1.5 pJ + Q 1e7 x 3 pJ = 3.3e-4 W; u1 1e7 x 1.625 pJ; u2 1e7 x
-# 3 pJ; switching 0.5 C V^2 x 1e7 on na (0.015 pF), nb (0.01 pF at 2 V), n1
-# (0.015 pF); leakage 1 + 2 + 3 + 5 + 7 nW, the macro 100, the pad 50.
+# default, which the buffers, the inverter and the flop pass on). By hand,
+# each energy table charged at the whole rate: f1 CK 2e8 x 3 pJ + Q 1e7 x
+# 6 pJ = 6.6e-4 W; u1 1e7 x 3.25 pJ; u2 1e7 x 6 pJ; switching 0.5 C V^2
+# x 1e7 on na (0.015 pF), nb (0.01 pF at 2 V), n1 (0.015 pF); leakage
+# 1 + 2 + 3 + 5 + 7 nW, the macro 100, the pad 50.
 read_liberty power_small.lib
 read_verilog power_small.v
 link_design pw

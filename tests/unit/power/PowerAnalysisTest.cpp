@@ -86,26 +86,28 @@ TEST_F(PowerAnalysisTest, InternalPowerInterpolatedAtTheCausingEdge) {
   // u1: load 0.015 pF (f1/D 0.01, p1/A 0.005). An inverter's output rises
   // on the input's fall (slew 0.3): rise table at (0.3, 0.015) is 2.5; it
   // falls on the input's rise (0.1): fall table at (0.1, 0.015) is 0.75.
-  // (2.5 + 0.75) / 2 pJ a transition, 1e8 a second: 1.625e-4 W.
+  // Each table is charged at the whole rate: (2.5 + 0.75) pJ a transition,
+  // 1e8 a second: 3.25e-4 W.
   // Switching: 0.5 x 0.015 pF x 1 V^2 x 1e8 = 7.5e-7 W; leakage 3 nW.
-  ExpectPower(Of("c/u1"), 1.625e-4, 7.5e-7, 3e-9);
+  ExpectPower(Of("c/u1"), 3.25e-4, 7.5e-7, 3e-9);
 }
 
 TEST_F(PowerAnalysisTest, OutputRateSharedByHowOftenEachInputDecides) {
   Run();
   // u2 = A&B: A decides when B is 1 (0.75), B when A is 1 (0.5). A's
-  // share: 2e8 x 0.75 against B's 1e8 x 0.5, so 0.75 and 0.25:
-  // 1e8 x (0.75 x 2 + 0.25 x 4) pJ = 2.5e-4 W. No load on y.
+  // share: 2e8 x 0.75 against B's 1e8 x 0.5, so 0.75 and 0.25. A's
+  // tables sum to 2 + 2, B's one `power` table counts for both edges, 4 + 4:
+  // 1e8 x (0.75 x 4 + 0.25 x 8) pJ = 5e-4 W. No load on y.
   // Leakage: A&B 0.375 x 10 + !A&!B 0.125 x 2 + what is left (0.5) x 4 = 6 nW.
-  ExpectPower(Of("c/u2"), 2.5e-4, 0.0, 6e-9);
+  ExpectPower(Of("c/u2"), 5e-4, 0.0, 6e-9);
 }
 
 TEST_F(PowerAnalysisTest, WhenConditionsOfAnInputAndARegisterOutput) {
   Run();
-  // f1/CK: 2e8 x (P(D) 0.25 x (3 + 1) / 2 + 0.75 x (1 + 1) / 2) pJ = 2.5e-4;
-  // f1/Q: 5e7 x (4 + 2) / 2 pJ = 1.5e-4. No leakage of its own: the
-  // library's default, 7 nW.
-  ExpectPower(Of("f1"), 4e-4, 0.0, 7e-9);
+  // f1/CK: 2e8 x (P(D) 0.25 x (3 + 1) + 0.75 x (1 + 1)) pJ = 5e-4;
+  // f1/Q: 5e7 x (4 + 2) pJ = 3e-4. No leakage of its own: the library's
+  // default, 7 nW.
+  ExpectPower(Of("f1"), 8e-4, 0.0, 7e-9);
 }
 
 TEST_F(PowerAnalysisTest, SwitchingAtTheDriversSupply) {
@@ -130,13 +132,13 @@ TEST_F(PowerAnalysisTest, SwitchingAtTheDriversSupply) {
 
 TEST_F(PowerAnalysisTest, GroupsAndHierarchySums) {
   Run();
-  ExpectPower(Of("c"), 1.625e-4 + 2.5e-4, 7.5e-7, 9e-9);
+  ExpectPower(Of("c"), 3.25e-4 + 5e-4, 7.5e-7, 9e-9);
   using PA = power::PowerAnalysis;
-  ExpectPower(analysis_->GroupPower(PA::kSequential), 4e-4, 0.0, 7e-9);
-  ExpectPower(analysis_->GroupPower(PA::kCombinational), 4.125e-4, 1.5e-6 + 2e-6 + 7.5e-7, 12e-9);
+  ExpectPower(analysis_->GroupPower(PA::kSequential), 8e-4, 0.0, 7e-9);
+  ExpectPower(analysis_->GroupPower(PA::kCombinational), 8.25e-4, 1.5e-6 + 2e-6 + 7.5e-7, 12e-9);
   ExpectPower(analysis_->GroupPower(PA::kMacro), 0.0, 0.0, 100e-9);
   ExpectPower(analysis_->GroupPower(PA::kPad), 0.0, 0.0, 50e-9);
-  ExpectPower(analysis_->Total(), 8.125e-4, 4.25e-6, 169e-9);
+  ExpectPower(analysis_->Total(), 1.625e-3, 4.25e-6, 169e-9);
 }
 
 TEST(TruthProbability, OneAndBooleanDifference) {
