@@ -318,7 +318,9 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
     if (!driver || !driver->GetNet()) continue;
     DrivenNet net;
     net.driver = driver;
-    net.load = 0.5 * (load(output.slot, 0) + load(output.slot, 1));
+    // The larger of the rising and the falling load, as the established
+    // engines take it: conservative where a pin's two figures differ.
+    net.load = std::max(load(output.slot, 0), load(output.slot, 1));
     net.vdd = output.vdd;
     net.activity = acts_[output.slot];
     net.power = 0.5 * net.load * net.vdd * net.vdd * net.activity.rate;

@@ -112,9 +112,12 @@ TEST_F(PowerAnalysisTest, WhenConditionsOfAnInputAndARegisterOutput) {
 
 TEST_F(PowerAnalysisTest, SwitchingAtTheDriversSupply) {
   Run();
-  // b0 drives na (u1/A 0.005 + u2/A 0.01) at the nominal 1 V, 2e8 a second.
+  // The load is the larger of the rising and the falling one. b0 drives na
+  // (u1/A 0.005 + u2/A 0.006 rising, 0.01 falling: 0.015) at the nominal
+  // 1 V, 2e8 a second.
   ExpectPower(Of("b0"), 0.0, 0.5 * 0.015e-12 * 1.0 * 2e8, 1e-9);
-  // b1's output is powered by VDDH, 2 V: nb (u2/B 0.01) at 1e8.
+  // b1's output is powered by VDDH, 2 V: nb (u2/B 0.01 rising, 0.006
+  // falling) at 1e8.
   ExpectPower(Of("b1"), 0.0, 0.5 * 0.01e-12 * 4.0 * 1e8, 2e-9);
   cdm::SwitchPowerRecord record;
   ASSERT_TRUE(analysis_->NetRecord(root_.GetCurrentDesign()->FindNet("nb"), record));
