@@ -15,6 +15,7 @@ struct FilterExpr::Node {
   std::string attribute;
   std::string comparison;  // "==", "!=", "=~", "!~", "<", "<=", ">", ">="
   std::string value;
+  std::unique_ptr<NameMatcher> matcher;  // of =~ and !~, made once
 };
 
 namespace {
@@ -141,7 +142,7 @@ bool AsNumber(const std::string& text, double& number) {
 bool Compare(const std::string& actual, const Node& node, const MatchOptions& options) {
   const std::string& op = node.comparison;
   if (op == "=~" || op == "!~") {
-    const bool matches = NameMatcher(node.value, options).Matches(actual);
+    const bool matches = node.matcher->Matches(actual);
     return op == "=~" ? matches : !matches;
   }
   double a = 0, b = 0;
@@ -167,12 +168,16 @@ bool Compare(const std::string& actual, const Node& node, const MatchOptions& op
 bool Evaluate(const Node& node, const ObjectRef& ref, const MatchOptions& options,
               std::string& error) {
   switch (node.op) {
-    case Node::Op::kAnd:
-      return Evaluate(*node.left, ref, options, error) &&
-             Evaluate(*node.right, ref, options, error);
-    case Node::Op::kOr:
-      return Evaluate(*node.left, ref, options, error) ||
-             Evaluate(*node.right, ref, options, error);
+    // Both sides, so that an unknown attribute is an error whatever the
+    // other side gives.
+    case Node::Op::kAnd: {
+      const bool left = Evaluate(*node.left, ref, options, error);
+      return Evaluate(*node.right, ref, options, error) && left;
+    }
+    case Node::Op::kOr: {
+      const bool left = Evaluate(*node.left, ref, options, error);
+      return Evaluate(*node.right, ref, options, error) || left;
+    }
     case Node::Op::kNot:
       return !Evaluate(*node.left, ref, options, error);
     case Node::Op::kCompare:
@@ -190,10 +195,27 @@ bool Evaluate(const Node& node, const ObjectRef& ref, const MatchOptions& option
   return Compare(actual, node, options);
 }
 
+// Makes the matchers of =~ and !~; false, with `error`, for a regular
+// expression that does not compile.
+bool MakeMatchers(Node& node, const MatchOptions& options, std::string& error) {
+  if (node.left && !MakeMatchers(*node.left, options, error)) return false;
+  if (node.right && !MakeMatchers(*node.right, options, error)) return false;
+  if (node.comparison != "=~" && node.comparison != "!~") return true;
+  node.matcher = std::make_unique<NameMatcher>(node.value, options);
+  if (node.matcher->Valid()) return true;
+  error = node.matcher->Error();
+  return false;
+}
+
 }  // namespace
 
 FilterExpr::FilterExpr(const std::string& text, const MatchOptions& options) : options_(options) {
   root_ = Parser(text).Parse(error_);
+  std::string why;
+  if (root_ && !MakeMatchers(*root_, options, why)) {
+    error_ = "bad filter '" + text + "': " + why;
+    root_.reset();
+  }
 }
 
 FilterExpr::~FilterExpr() = default;

@@ -27,13 +27,7 @@ class HierarchySeparatorTest : public sdctest::SdcShellTest {
  protected:
   void SetUp() override {
     SdcShellTest::SetUp();
-    if (!Root()->FindDesign("sep_top")) {
-      Load(kDesign, "sep_top");
-    } else {
-      std::vector<std::string> warnings;
-      std::string error;
-      ASSERT_TRUE(cdm::LinkDesign(Root(), Root()->FindDesign("sep_top"), warnings, error));
-    }
+    LoadOnce(kDesign, "sep_top");
     Eval("set_hierarchy_separator /");
   }
 };

@@ -56,6 +56,17 @@ class SdcTest : public ::testing::Test {
     return design;
   }
 
+  // Load, the first time; later calls link `top` again, which becomes the
+  // current design once more.
+  cdm::Design* LoadOnce(const std::string& text, const std::string& top) {
+    cdm::Design* design = Root()->FindDesign(top);
+    if (!design) return Load(text, top);
+    std::vector<std::string> warnings;
+    std::string error;
+    EXPECT_TRUE(cdm::LinkDesign(Root(), design, warnings, error)) << error;
+    return design;
+  }
+
   static sta::sdc::SdcMgr* Sdc() { return sta::sdc::SdcMain::getOrCreateSdcMgr(nullptr); }
   static sta::sdc::SdcStore& Store() { return Sdc()->store(); }
 
