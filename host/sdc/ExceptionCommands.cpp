@@ -94,14 +94,16 @@ class ExceptionCmd : public SdcCommand {
     if (!Point("to", "rise_to", "fall_to", kEnds, exception.to, empty)) return false;
     if (empty)
       return true;  // warned: a list named nothing, and without it the exception would widen
+    // Before -rise/-fall make an end point of their own: alone they would
+    // cover every path.
+    if (type_ != Type::kGroupPath && !exception.from && exception.throughs.empty() && !exception.to)
+      return Fail("give at least one of -from, -through and -to");
     if (type_ != Type::kGroupPath && (Has("rise") || Has("fall"))) {
       if (!exception.to) exception.to = ExceptionPoint{};
       if (exception.to->edges != cdm::RiseFallBoth::rise_fall_)
         return Fail("-rise/-fall and -rise_to/-fall_to exclude each other");
       exception.to->edges = Edges();
     }
-    if (type_ != Type::kGroupPath && !exception.from && exception.throughs.empty() && !exception.to)
-      return Fail("give at least one of -from, -through and -to");
     auto& list = store.Exceptions();
     auto same = std::find_if(list.begin(), list.end(),
                              [&](const PathException& each) { return each.SamePaths(exception); });
