@@ -3,6 +3,7 @@
 
 #include "sdc/SdcUnits.h"
 #include "sdc/SdcWriter.h"
+#include "support/SdcTestUtil.h"
 
 namespace {
 
@@ -43,7 +44,25 @@ TEST(SdcUnitsTest, ANoUnitIsRefusedAndChangesNothing) {
   EXPECT_DOUBLE_EQ(units.Scale(SdcUnits::kTime), 1e-9);
 }
 
+// Makes `lib` the default library while it lives. The database's root
+// outlives each test: a library another test of the binary read stays the
+// default one.
+class DefaultLibrary {
+ public:
+  explicit DefaultLibrary(cdm::LibertyLib* lib)
+      : kept_(cdm::DbManager::GetRoot()->GetDefaultLiberty()) {
+    cdm::DbManager::GetRoot()->SetDefaultLiberty(lib);
+  }
+  ~DefaultLibrary() { cdm::DbManager::GetRoot()->SetDefaultLiberty(kept_); }
+  DefaultLibrary(const DefaultLibrary&) = delete;
+  DefaultLibrary& operator=(const DefaultLibrary&) = delete;
+
+ private:
+  cdm::LibertyLib* kept_;
+};
+
 TEST(SdcUnitsTest, WithoutLibraryOrSetUnitsValuesAreNanosecondsPicofaradsKiloohms) {
+  DefaultLibrary none(nullptr);
   SdcUnits units;
   EXPECT_DOUBLE_EQ(units.Scale(SdcUnits::kTime), 1e-9);
   EXPECT_DOUBLE_EQ(units.Scale(SdcUnits::kCapacitance), 1e-12);
