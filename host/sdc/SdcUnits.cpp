@@ -50,7 +50,13 @@ double LibraryScale(SdcUnits::Quantity quantity) {
     default:
       break;
   }
-  return unit && unit->scale > 0.0f ? unit->scale : kQuantities[quantity].fallback;
+  if (!unit || !(unit->scale > 0.0f)) return kQuantities[quantity].fallback;
+  // The library keeps its scale as a float, 1e-9 as 9.99999972e-10: take
+  // the decimal it stands for, or every value read would be off by a part
+  // in 1e8 and often land on the float next to the one meant.
+  char text[32];
+  std::snprintf(text, sizeof text, "%.7g", unit->scale);
+  return std::strtod(text, nullptr);
 }
 
 bool EqualNoCase(const std::string& a, const char* b) {
