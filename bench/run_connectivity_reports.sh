@@ -19,11 +19,10 @@ with_sta=no
 if [ "$1" = "-sta" ]; then with_sta=yes; shift; fi
 build=${1:?usage: run_connectivity_reports.sh [-sta] BUILD_DIR [SIZES]}
 sizes=${2:-"10000 100000 1000000"}
-here=$(cd "$(dirname "$0")" && pwd)
-lib=$here/../tests/data/sky130hd_tt.lib.gz
-work=${TMPDIR:-/tmp}/kelvo_bench_netlists
+. "$(dirname "$0")/common.sh"
+lib=$bench_lib
+work=$bench_work
 script=${TMPDIR:-/tmp}/kelvo_bench_connectivity.tcl
-mkdir -p "$work"
 
 # The flat netlist with the flops' clock pins moved onto leaf nets of a
 # buffer tree of fan-out 10.
@@ -47,9 +46,8 @@ buffer_clock() {
 }
 
 for n in $sizes; do
-  flat="$work/flat_$n.v"
+  flat=$(bench_netlist flat "$n")
   tree="$work/flat_ctree_$n.v"
-  [ -f "$flat" ] || "$build/kelvo_gen_netlist" flat "$n" "$flat"
   [ -f "$tree" ] || buffer_clock "$flat" "$tree"
   for f in "$flat" "$tree"; do
     kind=flat
@@ -87,8 +85,7 @@ TCL
   done
   if [ $with_sta = yes ]; then
     # Plain text: this sta does not read gzipped Liberty.
-    plain=$work/sky130hd_tt.lib
-    [ -f "$plain" ] || gunzip -c "$lib" >"$plain"
+    plain=$(bench_plain_library)
     cat >"$script.sta" <<TCL
 read_liberty $plain
 read_verilog $flat

@@ -7,16 +7,13 @@
 set -e
 build=${1:?usage: run_design_reports.sh BUILD_DIR [SIZES]}
 sizes=${2:-"10000 100000 1000000"}
-here=$(cd "$(dirname "$0")" && pwd)
-lib=$here/../tests/data/sky130hd_tt.lib.gz
-work=${TMPDIR:-/tmp}/kelvo_bench_netlists
+. "$(dirname "$0")/common.sh"
+lib=$bench_lib
 out=${TMPDIR:-/tmp}/kelvo_bench_design_reports.txt
 script=${TMPDIR:-/tmp}/kelvo_bench_design_reports.tcl
-mkdir -p "$work"
 for n in $sizes; do
   for kind in flat hier; do
-    f="$work/${kind}_$n.v"
-    [ -f "$f" ] || "$build/kelvo_gen_netlist" "$kind" "$n" "$f"
+    f=$(bench_netlist "$kind" "$n")
     cat >"$script" <<TCL
 read_liberty $lib
 set us [lindex [time {read_verilog $f; link_design}] 0]

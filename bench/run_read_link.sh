@@ -15,13 +15,11 @@ set -e
 build=${1:?usage: run_read_link.sh BUILD_DIR [SIZES] [SHAPES]}
 sizes=${2:-"10000 100000 1000000"}
 shapes=${3:-"flat hier modules reused bignet"}
-work=${TMPDIR:-/tmp}/kelvo_bench_netlists
-mkdir -p "$work"
-lib=$(dirname "$0")/../tests/data/sky130hd_tt.lib.gz
+. "$(dirname "$0")/common.sh"
+lib=$bench_lib
 for n in $sizes; do
   for kind in $shapes; do
-    f="$work/${kind}_$n.v"
-    [ -f "$f" ] || "$build/kelvo_gen_netlist" "$kind" "$n" "$f"
+    f=$(bench_netlist "$kind" "$n")
     if [ "$kind" = bignet ]; then
       "$build/kelvo_bench_read_link" -lib "$lib" -net big "$f"
     else

@@ -8,14 +8,11 @@
 set -e
 build=${1:?usage: run_report_power.sh BUILD_DIR [SIZES]}
 sizes=${2:-"10000 100000 1000000"}
-here=$(cd "$(dirname "$0")" && pwd)
-lib=$here/../tests/data/sky130hd_tt.lib.gz
-work=${TMPDIR:-/tmp}/kelvo_bench_netlists
+. "$(dirname "$0")/common.sh"
+lib=$bench_lib
 script=${TMPDIR:-/tmp}/kelvo_bench_report_power.tcl
-mkdir -p "$work"
 for n in $sizes; do
-  f="$work/flat_$n.v"
-  [ -f "$f" ] || "$build/kelvo_gen_netlist" flat "$n" "$f"
+  f=$(bench_netlist flat "$n")
   cat >"$script" <<TCL
 read_liberty $lib
 read_verilog $f

@@ -14,14 +14,12 @@ if [ "$1" = "-sta" ]; then with_sta=yes; shift; fi
 build=${1:?usage: run_sdc_read.sh [-sta] BUILD_DIR [SIZES]}
 sizes=${2:-"10000 1000000"}
 width=1024
-here=$(cd "$(dirname "$0")" && pwd)
-work=${TMPDIR:-/tmp}/kelvo_bench_netlists
+. "$(dirname "$0")/common.sh"
+work=$bench_work
 script=${TMPDIR:-/tmp}/kelvo_bench_sdc_read.tcl
 sdc=$work/ports_$width.sdc
-mkdir -p "$work"
 # Plain text: this sta does not read gzipped Liberty.
-lib=$work/sky130hd_tt.lib
-[ -f "$lib" ] || gunzip -c "$here/../tests/data/sky130hd_tt.lib.gz" >"$lib"
+lib=$(bench_plain_library)
 
 # The constraints, as a tool writes them: one command a port and setting.
 {
@@ -37,8 +35,7 @@ lib=$work/sky130hd_tt.lib
 } >"$sdc"
 
 for n in $sizes; do
-  f="$work/flat_${n}_w$width.v"
-  [ -f "$f" ] || "$build/kelvo_gen_netlist" flat "$n" "$f" "$width"
+  f=$(bench_netlist flat "$n" "$width")
   cat >"$script" <<TCL
 read_liberty $lib
 set us [lindex [time {read_verilog $f; link_design top}] 0]

@@ -14,14 +14,12 @@ if [ "$1" = "-sta" ]; then with_sta=yes; shift; fi
 build=${1:?usage: run_timer.sh [-sta] BUILD_DIR [SIZES]}
 sizes=${2:-"10000 100000"}
 width=16
-here=$(cd "$(dirname "$0")" && pwd)
-work=${TMPDIR:-/tmp}/kelvo_bench_netlists
+. "$(dirname "$0")/common.sh"
+work=$bench_work
 script=${TMPDIR:-/tmp}/kelvo_bench_timer.tcl
 sdc=$work/timer_$width.sdc
-mkdir -p "$work"
 # Plain text: this sta does not read gzipped Liberty.
-lib=$work/sky130hd_tt.lib
-[ -f "$lib" ] || gunzip -c "$here/../tests/data/sky130hd_tt.lib.gz" >"$lib"
+lib=$(bench_plain_library)
 {
   echo "create_clock -name clk -period 10 [get_ports clk]"
   echo "set_input_delay 1.5 -clock clk [get_ports in*]"
@@ -29,8 +27,7 @@ lib=$work/sky130hd_tt.lib
 } >"$sdc"
 
 for n in $sizes; do
-  f="$work/flat_${n}_w$width.v"
-  [ -f "$f" ] || "$build/kelvo_gen_netlist" flat "$n" "$f" "$width"
+  f=$(bench_netlist flat "$n" "$width")
   cat >"$script.kelvo" <<TCL
 read_liberty $lib
 set us [lindex [time {read_verilog $f; link_design top; read_sdc $sdc}] 0]
