@@ -38,7 +38,7 @@ class ReportSwitchingActivityCmd : public sta::sdc::SdcCommand {
     msg::Print_Result("Origin            Nets");
     msg::Print_Result("----------------------");
     for (int origin = 0; origin < kActivityOriginCount; ++origin)
-      msg::Print_Result("%-12s %9u", OriginName(static_cast<ActivityOrigin>(origin)),
+      msg::Print_Result("%-12s %9u", cdm::OriginToString(static_cast<ActivityOrigin>(origin)),
                         counts[origin]);
     if (objects.empty()) return true;
 
@@ -50,7 +50,7 @@ class ReportSwitchingActivityCmd : public sta::sdc::SdcCommand {
       const cdm::Net* net = static_cast<const cdm::Net*>(ref.object);
       const NetActivity& figures = activity.OfNet(net);
       msg::Print_Result("%-30s %11.5f %14.4f  %s", net->GetFullName().c_str(), figures.rate * 1e-9,
-                        figures.probability, OriginName(figures.origin));
+                        figures.probability, cdm::OriginToString(figures.origin));
     }
     return true;
   }
