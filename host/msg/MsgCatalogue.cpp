@@ -27,6 +27,7 @@ const CatalogueEntry kCatalogue[] = {
      "%s: clock '%s' is replaced by '%s' on all its sources; it is removed with the "
      "constraints relative to it."},
     {SDC_008, Severity::kWarning, "%s: port '%s' is no %s port; it is left out."},
+    {SDC_009, Severity::kWarning, "Dropped %s on %s '%s': its %s '%s' no longer exists."},
     {SET_LOAD_001, Severity::kWarning,
      "%s: the load %s is negative; it is kept as given and lowers the capacitance of what it "
      "is set on."},
