@@ -144,4 +144,10 @@ void SdcStore::Dropped(const std::string& kind, const std::string& name, const s
   msg::HostMsg(SDC_003, {what, kind, name, design_name_});
 }
 
+void SdcStore::DroppedPart(const std::string& what, const std::string& kind,
+                           const std::string& name, const std::string& part_kind,
+                           const std::string& part_name) {
+  msg::HostMsg(SDC_009, {what, kind, name, part_kind, part_name});
+}
+
 }  // namespace sta::sdc

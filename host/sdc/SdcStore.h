@@ -159,6 +159,10 @@ class SdcStore {
   void RelinkDisabled();
   void RetireClock(Clock* clock);
   void Dropped(const std::string& kind, const std::string& name, const std::string& what);
+  // `what` on an object that stays is dropped, as a `part_kind` it needs
+  // (its clock, reference pin, library cell) is gone.
+  void DroppedPart(const std::string& what, const std::string& kind, const std::string& name,
+                   const std::string& part_kind, const std::string& part_name);
 
   std::string design_name_;
   uint64_t db_generation_ = 0;  // of the database when last linked; 0 never

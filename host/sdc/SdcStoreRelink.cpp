@@ -173,8 +173,8 @@ void SdcStore::RelinkPorts(cdm::Design* design) {
         cdm::LibCell* lib_cell = CurrentLibCell(cell->lib_cell_);
         if (!lib_cell) {
           if (cell.get() != warned)
-            Dropped("library cell", cell->lib_cell_->Name(),
-                    "set_driving_cell on port '" + record->name + "'");
+            DroppedPart("set_driving_cell", "port", record->name, "library cell",
+                        cell->lib_cell_->Name());
           warned = cell.get();
           cell.reset();
           continue;
@@ -222,14 +222,13 @@ void SdcStore::RelinkPins(cdm::Design*) {
         bool keep = true;
         if (delay->clock_edge_ &&
             FindClock(delay->clock_edge_->getClock()->Name()) != delay->clock_edge_->getClock()) {
-          Dropped("clock", delay->clock_edge_->getClock()->Name(),
-                  std::string(command) + " on pin '" + record->name + "'");
+          DroppedPart(command, "pin", record->name, "clock",
+                      delay->clock_edge_->getClock()->Name());
           keep = false;
         } else if (!delay->ref_pin_name_.empty()) {
           delay->ref_pin_ = cdm::DbManager::FindPin(delay->ref_pin_name_);
           if (!delay->ref_pin_) {
-            Dropped("pin", delay->ref_pin_name_,
-                    std::string(command) + " -reference_pin on pin '" + record->name + "'");
+            DroppedPart(command, "pin", record->name, "reference pin", delay->ref_pin_name_);
             keep = false;
           }
         }

@@ -7,6 +7,7 @@ link_design relink_top
 create_clock -name clk -period 10 [get_ports clk]
 create_clock -name inner -period 5 [get_pins {u1/$1}]
 set_input_delay 1 -clock clk [get_ports a]
+set_input_delay 0.5 -clock clk -reference_pin [get_pins {u1/$1}] -add_delay [get_ports a]
 set_output_delay 2 -clock inner [get_ports y]
 set_case_analysis 0 [get_pins {u1/$0}]
 set_load 0.1 [get_nets n1]
