@@ -1,5 +1,6 @@
 #include "liberty/LibEditor.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cmath>
 #include <cstdint>
@@ -154,6 +155,8 @@ bool LibEditor::Integer(const Statement& st, int& value, int low, int high, size
 bool LibEditor::Numbers(const Statement& st, std::string_view text, std::vector<float>& values) {
   const char* p = text.data();
   const char* end = p + text.size();
+  // One allocation for the list: tables hold millions of numbers.
+  values.reserve(values.size() + static_cast<size_t>(std::count(p, end, ',')) + 1);
   for (;;) {
     float value = 0.0f;
     if (!ReadNumber(p, end, value)) {

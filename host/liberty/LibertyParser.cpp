@@ -1,6 +1,9 @@
 // Hand-written tokenizer and recursive-descent reader over one buffer.
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
+#include <vector>
 
 #include "cmdlib/ReadFiles.h"
 #include "liberty/LibertyTree.h"
@@ -9,6 +12,9 @@
 namespace liberty {
 
 namespace {
+
+// Groups nest at most this deep: a real library needs five or six levels.
+constexpr int kMaxDepth = 64;
 
 class Parser {
  public:
@@ -210,7 +216,7 @@ class Parser {
   }
 
   bool ParseStatement(LibStatement& st, int depth) {
-    if (depth > 64) return Error("groups nested too deeply");
+    if (depth > kMaxDepth) return Error("groups nested too deeply");
     SkipBlank();
     st.line = line_;
     if (!ReadWord(st.name)) return Error("expected an attribute or group name, found " + Found());
@@ -241,9 +247,13 @@ class Parser {
     ++p_;
     SkipBlank();
     if (p_ < end_ && *p_ != ')') {
+      // Gathered apart and then copied once: a library has millions of
+      // lists, and growing each one by one is most of the time spent
+      // allocating.
+      scratch_values_.clear();
       for (;;) {
-        st.values.emplace_back();
-        if (!ReadValue(st.values.back(), "a value in the list of", name)) return false;
+        scratch_values_.emplace_back();
+        if (!ReadValue(scratch_values_.back(), "a value in the list of", name)) return false;
         SkipBlank();
         if (p_ < end_ && *p_ == ',') {
           ++p_;
@@ -251,6 +261,7 @@ class Parser {
         }
         break;
       }
+      st.values.assign(scratch_values_.begin(), scratch_values_.end());
     }
     if (!Expect(')', "',' or ')' in the list of", name)) return false;
     SkipBlank();
@@ -258,6 +269,10 @@ class Parser {
       ++p_;
       st.kind = LibStatement::Kind::kGroup;
       const uint32_t open_line = st.line;
+      // The children are gathered in this depth's scratch list (deeper
+      // groups use deeper lists) and moved into a list of their number.
+      std::vector<LibStatement>& children = scratch_children_[depth];
+      children.clear();
       for (;;) {
         SkipBlank();
         if (p_ == end_) {
@@ -274,9 +289,12 @@ class Parser {
           continue;
         }
         cmdlib::ReadCheckpoint(static_cast<size_t>(p_ - tree_.buffer.data()), tree_.buffer.size());
-        st.children.emplace_back();
-        if (!ParseStatement(st.children.back(), depth + 1)) return false;
+        children.emplace_back();
+        if (!ParseStatement(children.back(), depth + 1)) return false;
       }
+      st.children.reserve(children.size());
+      std::move(children.begin(), children.end(), std::back_inserter(st.children));
+      children.clear();
       SkipBlank();
       if (p_ < end_ && *p_ == ';') ++p_;
       return true;
@@ -294,6 +312,9 @@ class Parser {
   uint32_t line_ = 1;  // wraps, harmlessly, past 2^32 lines
   uint32_t unterminated_comment_line_ = 0;
   const char* last_word_ = nullptr;  // start of the last word of a value of several
+  std::vector<LibValue> scratch_values_;
+  std::vector<std::vector<LibStatement>> scratch_children_ =
+      std::vector<std::vector<LibStatement>>(kMaxDepth + 1);
   std::string error_;
 };
 

@@ -1,5 +1,6 @@
 #include "liberty/LibertyReader.h"
 
+#include <cstring>
 #include <new>
 
 #include "hostapi/cdm/LibertyLib.h"
@@ -10,7 +11,15 @@
 
 namespace liberty {
 
-std::unique_ptr<cdm::LibertyLib> ParseLiberty(cdm::Root* root, std::string text,
+std::unique_ptr<cdm::LibertyLib> ParseLiberty(cdm::Root* root, std::string_view text,
+                                              const std::string& file_name, std::string& error) {
+  io::TextBuffer buffer;
+  buffer.resize(text.size());
+  if (!text.empty()) std::memcpy(buffer.data(), text.data(), text.size());
+  return ParseLiberty(root, std::move(buffer), file_name, error);
+}
+
+std::unique_ptr<cdm::LibertyLib> ParseLiberty(cdm::Root* root, io::TextBuffer text,
                                               const std::string& file_name, std::string& error) {
   LibTree tree;
   tree.buffer = std::move(text);
@@ -21,7 +30,7 @@ std::unique_ptr<cdm::LibertyLib> ParseLiberty(cdm::Root* root, std::string text,
 
 cdm::LibertyLib* ReadLibertyFile(cdm::Root* root, const std::string& path, std::string& error) {
   try {
-    std::string text;
+    io::TextBuffer text;
     if (!io::LoadFile(path, text, error)) return nullptr;
     std::unique_ptr<cdm::LibertyLib> lib = ParseLiberty(root, std::move(text), path, error);
     if (!lib) return nullptr;

@@ -3,6 +3,9 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+
+#include "io/TextBuffer.h"
 
 namespace cdm {
 class LibertyLib;
@@ -13,7 +16,10 @@ namespace liberty {
 
 // Reads Liberty text (`file_name` names it in messages). Null with `error`
 // set on any error; nothing is added anywhere.
-std::unique_ptr<cdm::LibertyLib> ParseLiberty(cdm::Root* root, std::string text,
+std::unique_ptr<cdm::LibertyLib> ParseLiberty(cdm::Root* root, std::string_view text,
+                                              const std::string& file_name, std::string& error);
+// The same over text already in a buffer of its own, which it keeps.
+std::unique_ptr<cdm::LibertyLib> ParseLiberty(cdm::Root* root, io::TextBuffer text,
                                               const std::string& file_name, std::string& error);
 
 // Reads a file, plain or gzip-compressed, and adds its library to `root`

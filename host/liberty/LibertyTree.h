@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "io/TextBuffer.h"
+
 namespace liberty {
 
 // One value of an attribute: the text (quotes removed) and whether it was
@@ -35,7 +37,7 @@ struct LibStatement {
 // The parsed file. Texts point into `buffer` or `owned` (texts rebuilt
 // because of line continuations), so the tree keeps both alive.
 struct LibTree {
-  std::string buffer;
+  io::TextBuffer buffer;
   std::deque<std::string> owned;
   LibStatement root;  // the `library` group
 };
