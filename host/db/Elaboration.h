@@ -68,7 +68,8 @@ class Elaboration {
   // The copies made for the hierarchical cells, in elaboration order
   // (depth first, each copy right after its cell).
   Span<Netlist* const> Instances() const {
-    return Span<Netlist* const>(netlists_.data() + 1, netlists_.size() - 1);
+    return netlists_.empty() ? Span<Netlist* const>(nullptr, 0)
+                             : Span<Netlist* const>(netlists_.data() + 1, netlists_.size() - 1);
   }
   // The copy of the given number (see NetlistEditor::SetFirstChild).
   Netlist* Copy(uint32_t number) const { return &copies_[number]; }
