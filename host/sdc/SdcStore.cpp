@@ -43,12 +43,11 @@ cdm::Design* SdcStore::GetDesign() {
 }
 
 PortConstraints* SdcStore::FindPort(const cdm::Port* port) {
-  auto found = ports_.find(port);
-  return found == ports_.end() ? nullptr : found->second.get();
+  return ports_.Find(port);
 }
 
 PortConstraints& SdcStore::Port(cdm::Port* port) {
-  std::unique_ptr<PortConstraints>& slot = ports_[port];
+  std::unique_ptr<PortConstraints>& slot = ports_.Slot(port);
   if (!slot) {
     slot = std::make_unique<PortConstraints>();
     slot->name = port->Name();
@@ -57,12 +56,11 @@ PortConstraints& SdcStore::Port(cdm::Port* port) {
 }
 
 PinConstraints* SdcStore::FindPin(const cdm::Pin* pin) {
-  auto found = pins_.find(pin);
-  return found == pins_.end() ? nullptr : found->second.get();
+  return pins_.Find(pin);
 }
 
 PinConstraints& SdcStore::Pin(cdm::Pin* pin) {
-  std::unique_ptr<PinConstraints>& slot = pins_[pin];
+  std::unique_ptr<PinConstraints>& slot = pins_.Slot(pin);
   if (!slot) {
     slot = std::make_unique<PinConstraints>();
     slot->name = pin->GetFullName();
@@ -71,12 +69,11 @@ PinConstraints& SdcStore::Pin(cdm::Pin* pin) {
 }
 
 NetConstraints* SdcStore::FindNet(const cdm::Net* net) {
-  auto found = nets_.find(net);
-  return found == nets_.end() ? nullptr : found->second.get();
+  return nets_.Find(net);
 }
 
 NetConstraints& SdcStore::Net(cdm::Net* net) {
-  std::unique_ptr<NetConstraints>& slot = nets_[net];
+  std::unique_ptr<NetConstraints>& slot = nets_.Slot(net);
   if (!slot) {
     slot = std::make_unique<NetConstraints>();
     slot->name = net->GetFullName();
@@ -85,12 +82,11 @@ NetConstraints& SdcStore::Net(cdm::Net* net) {
 }
 
 CellConstraints* SdcStore::FindCell(const cdm::Cell* cell) {
-  auto found = cells_.find(cell);
-  return found == cells_.end() ? nullptr : found->second.get();
+  return cells_.Find(cell);
 }
 
 CellConstraints& SdcStore::Cell(cdm::Cell* cell) {
-  std::unique_ptr<CellConstraints>& slot = cells_[cell];
+  std::unique_ptr<CellConstraints>& slot = cells_.Slot(cell);
   if (!slot) {
     slot = std::make_unique<CellConstraints>();
     slot->name = cell->GetFullName();

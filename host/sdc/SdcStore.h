@@ -24,6 +24,7 @@
 #include "sdc/PathException.h"
 #include "sdc/PinConstraints.h"
 #include "sdc/PortConstraints.h"
+#include "sdc/RecordTable.h"
 #include "sdc/SdcUnits.h"
 
 namespace cdm {
@@ -83,7 +84,8 @@ class SdcStore {
   NetConstraints& Net(cdm::Net* net);
   CellConstraints* FindCell(const cdm::Cell* cell);
   CellConstraints& Cell(cdm::Cell* cell);
-  // Every record, for writing and for the timer; in no set order.
+  // Every record, for writing and for the timer, in the order the first
+  // constraint was set on each object.
   std::vector<std::pair<cdm::Port*, PortConstraints*>> PortRecords();
   std::vector<std::pair<cdm::Pin*, PinConstraints*>> PinRecords();
   std::vector<std::pair<cdm::Net*, NetConstraints*>> NetRecords();
@@ -170,10 +172,10 @@ class SdcStore {
   uint64_t generation_ = 1;
   SdcUnits units_;
   DesignConstraints design_;
-  std::unordered_map<const cdm::Port*, std::unique_ptr<PortConstraints>> ports_;
-  std::unordered_map<const cdm::Pin*, std::unique_ptr<PinConstraints>> pins_;
-  std::unordered_map<const cdm::Net*, std::unique_ptr<NetConstraints>> nets_;
-  std::unordered_map<const cdm::Cell*, std::unique_ptr<CellConstraints>> cells_;
+  RecordTable<cdm::Port, PortConstraints> ports_;
+  RecordTable<cdm::Pin, PinConstraints> pins_;
+  RecordTable<cdm::Net, NetConstraints> nets_;
+  RecordTable<cdm::Cell, CellConstraints> cells_;
   std::vector<InterClockUncertainty> inter_clock_;
   std::vector<std::unique_ptr<Clock>> owned_clocks_;
   std::vector<Clock*> clocks_;

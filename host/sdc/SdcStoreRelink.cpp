@@ -157,7 +157,7 @@ void SdcStore::RelinkClocks(cdm::Design*) {
 }
 
 void SdcStore::RelinkPorts(cdm::Design* design) {
-  std::unordered_map<const cdm::Port*, std::unique_ptr<PortConstraints>> relinked;
+  RecordTable<cdm::Port, PortConstraints> relinked;
   driving_cells_ = 0;
   for (auto& entry : ports_) {
     std::unique_ptr<PortConstraints>& record = entry.second;
@@ -200,13 +200,13 @@ void SdcStore::RelinkPorts(cdm::Design* design) {
       attribute.float_value = *record->fanout_load;
       port->SetAttribute(attribute);
     }
-    relinked[port] = std::move(record);
+    relinked.Slot(port) = std::move(record);
   }
   ports_ = std::move(relinked);
 }
 
 void SdcStore::RelinkPins(cdm::Design*) {
-  std::unordered_map<const cdm::Pin*, std::unique_ptr<PinConstraints>> relinked;
+  RecordTable<cdm::Pin, PinConstraints> relinked;
   for (auto& entry : pins_) {
     std::unique_ptr<PinConstraints>& record = entry.second;
     cdm::Pin* pin = cdm::DbManager::FindPin(record->name);
@@ -242,22 +242,22 @@ void SdcStore::RelinkPins(cdm::Design*) {
     };
     relink_delays(record->input_owned, record->input_delays, "set_input_delay");
     relink_delays(record->output_owned, record->output_delays, "set_output_delay");
-    relinked[pin] = std::move(record);
+    relinked.Slot(pin) = std::move(record);
   }
   pins_ = std::move(relinked);
 }
 
 void SdcStore::RelinkNetsAndCells() {
-  std::unordered_map<const cdm::Net*, std::unique_ptr<NetConstraints>> nets;
+  RecordTable<cdm::Net, NetConstraints> nets;
   for (auto& entry : nets_) {
     cdm::Net* net = cdm::DbManager::FindNet(entry.second->name);
     if (net)
-      nets[net] = std::move(entry.second);
+      nets.Slot(net) = std::move(entry.second);
     else
       Dropped("net", entry.second->name, "set_load");
   }
   nets_ = std::move(nets);
-  std::unordered_map<const cdm::Cell*, std::unique_ptr<CellConstraints>> cells;
+  RecordTable<cdm::Cell, CellConstraints> cells;
   for (auto& entry : cells_) {
     cdm::Cell* cell = cdm::DbManager::FindCell(entry.second->name);
     if (!cell) {
@@ -266,7 +266,7 @@ void SdcStore::RelinkNetsAndCells() {
     }
     for (auto& wire_load : entry.second->wire_load)
       if (wire_load) wire_load = CurrentWireLoad(wire_load);
-    cells[cell] = std::move(entry.second);
+    cells.Slot(cell) = std::move(entry.second);
   }
   cells_ = std::move(cells);
 }
