@@ -133,7 +133,8 @@ bool ReportTimingCmd::Point(const char* option, const std::vector<ObjectKind>& k
                             sdc::ExceptionPoint& point) {
   query::ObjectArgs args;
   std::string error;
-  if (!query::ResolveOption(*this, option, kinds, query::MatchOptions{}, '/', args, error, use)) {
+  if (!query::ResolveOption(*this, option, kinds, query::MatchOptions{}, query::CurrentSeparator(),
+                            args, error, use)) {
     SetTclError(name() + ": " + error);
     return false;
   }
