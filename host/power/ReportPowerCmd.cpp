@@ -122,7 +122,7 @@ class ReportPowerCmd : public CommonCmd {
     query::ObjectArgs args;
     std::string error;
     if (!query::ResolveOption(*this, "objects", {ObjectKind::kCell, ObjectKind::kNet},
-                              query::MatchOptions{}, '/', args, error)) {
+                              query::MatchOptions{}, query::CurrentSeparator(), args, error)) {
       SetTclError("report_power: " + error);
       return false;
     }
