@@ -202,10 +202,19 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
       for (char c : expr.bits)
         bits.push_back(c == '0' ? cdm::kBitConst0 : c == '1' ? cdm::kBitConst1 : cdm::kBitOpen);
       return true;
-    case Expr::kConcat:
+    case Expr::kConcat: {
+      const size_t first = bits.size();
       for (const Expr& item : expr.items)
         if (!ExprBits(item, bits)) return false;
+      const size_t once = bits.size() - first;
+      if (expr.repeat > 1) {
+        if (!RoomFor(bits, once * (expr.repeat - 1))) return false;
+        bits.reserve(bits.size() + once * (expr.repeat - 1));
+        for (uint32_t r = 1; r < expr.repeat; ++r)
+          for (size_t i = 0; i < once; ++i) bits.push_back(bits[first + i]);
+      }
       return true;
+    }
     case Expr::kName: {
       Symbol* symbol = FindSymbol(expr.name);
       if (!symbol) symbol = AddSymbol(expr.name, Range(), expr.line);  // implicit net

@@ -23,7 +23,8 @@ struct Expr {
   int index = 0;            // bit select
   int msb = 0, lsb = 0;     // part select
   std::string bits;         // constant: '0' '1' 'x' 'z', most significant first
-  std::vector<Expr> items;  // concatenation, replications expanded
+  std::vector<Expr> items;  // concatenation: its items, once
+  uint32_t repeat = 1;      // concatenation: how often the items stand ({N{...}})
   uint32_t line = 0;
 };
 

@@ -306,13 +306,11 @@ bool VerilogParser::ParseExpr(Expr& expr, int depth, size_t& cost) {
     if (!next.Is(",")) return FailAt(next, "',' or '}'");
   }
   cost = body_cost * count;
-  if (!replication) {
-    expr.items = std::move(body);
-    return true;
-  }
-  for (size_t i = 0; i < count; ++i)
-    for (const Expr& item : body) expr.items.push_back(item);
-  return Expect("}");
+  // Kept once with its count: the builder repeats the bits, a few bytes
+  // each, where copies of the items would take a hundred.
+  expr.items = std::move(body);
+  expr.repeat = static_cast<uint32_t>(count);
+  return !replication || Expect("}");
 }
 
 bool VerilogParser::SkipParameters() {

@@ -93,7 +93,8 @@ TEST_F(VerilogReaderTest, AnsiHeaderDeclaresPorts) {
 TEST_F(VerilogReaderTest, ConnectionsByNameAndPositionWithSelectsAndConcatenation) {
   ASSERT_TRUE(
       Read("module m (a, y);\n input [3:0] a; output y;\n wire [7:0] w;\n"
-           " X u1 (.A(a[2]), .B(a[3:2]), .C({w[0], y}), .D(), .E({2{a[1]}}));\n"
+           " X u1 (.A(a[2]), .B(a[3:2]), .C({w[0], y}), .D(), .E({2{a[1]}}),\n"
+           "       .F({2{a[0], {2{w[1]}}}}));\n"
            " X u2 (y, , a);\nendmodule"))
       << error_;
   Design* m = D("m");
@@ -113,6 +114,11 @@ TEST_F(VerilogReaderTest, ConnectionsByNameAndPositionWithSelectsAndConcatenatio
   bits = ConnBits(m, 0, 4);
   ASSERT_EQ(bits.size(), 2u);
   EXPECT_EQ(bits[0], bits[1]);
+  // A replication inside a replication: the items in order, each time.
+  bits = ConnBits(m, 0, 5);
+  std::vector<std::string> names;
+  for (int32_t bit : bits) names.push_back(NetName(m, bit));
+  EXPECT_EQ(names, (std::vector<std::string>{"a[0]", "w[1]", "w[1]", "a[0]", "w[1]", "w[1]"}));
   // By position: the empty hole is kept, the whole vector gives 4 bits.
   EXPECT_EQ(ConnBits(m, 1, 0).size(), 1u);
   EXPECT_TRUE(ConnBits(m, 1, 1).empty());
