@@ -1,3 +1,4 @@
+#include <dirent.h>
 #include <sys/mman.h>
 #include <tcl.h>
 #include <unistd.h>
@@ -42,10 +43,27 @@ bool Keep(const std::string& name) {
   return false;
 }
 
+// Removes a folder of plain files.
+void RemoveFolder(const std::string& folder) {
+  if (DIR* listing = opendir(folder.c_str())) {
+    while (dirent* entry = readdir(listing))
+      if (std::string(entry->d_name) != "." && std::string(entry->d_name) != "..")
+        unlink((folder + "/" + entry->d_name).c_str());
+    closedir(listing);
+  }
+  rmdir(folder.c_str());
+}
+
 // One interpreter for all inputs, over the small design of the constraint
 // tests, linked once; the constraints stay from one input to the next.
 Tcl_Interp* Interp() {
   static Tcl_Interp* interp = [] {
+    // Every command takes "> FILE" to send its output to a file: inputs
+    // write files of any name, so the harness works in a folder of its own.
+    const char* tmp = std::getenv("TMPDIR");
+    static std::string folder = std::string(tmp && *tmp ? tmp : "/tmp") + "/kelvo_fuzz_sdc_XXXXXX";
+    if (!mkdtemp(&folder[0]) || chdir(folder.c_str()) != 0) std::abort();
+    std::atexit([] { RemoveFolder(folder); });
     Tcl_Interp* made = Tcl_CreateInterp();
     cmdlib::CreateHostCommands();
     cmdlib::BindCommands(made);
