@@ -48,16 +48,17 @@ class NameIndex {
     while (slots_.size() < count * 2) Grow();
   }
 
+  // The 32-bit hash the index files a name under.
+  static uint32_t Hash(std::string_view name) {
+    size_t hash = std::hash<std::string_view>()(name);
+    return static_cast<uint32_t>(hash ^ (hash >> 32));
+  }
+
  private:
   struct Slot {
     uint32_t hash = 0;
     uint32_t value = kNone;
   };
-
-  static uint32_t Hash(std::string_view name) {
-    size_t hash = std::hash<std::string_view>()(name);
-    return static_cast<uint32_t>(hash ^ (hash >> 32));
-  }
 
   void Grow() {
     PodArray<Slot> old;

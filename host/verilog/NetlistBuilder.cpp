@@ -58,8 +58,7 @@ NetlistBuilder::NetlistBuilder(cdm::Root* root, std::string file_name)
     : root_(root),
       names_(root),
       file_name_(std::move(file_name)),
-      symbol_index_([this](uint32_t i) { return NameOf(symbols_[i]); }),
-      instance_index_([this](uint32_t i) { return draft_.names.View(draft_.cell_names[i]); }) {
+      symbol_index_([this](uint32_t i) { return NameOf(symbols_[i]); }) {
   owner_ = std::make_shared<cdm::Object>(root_->Intern(BaseName(file_name_)));
 }
 
@@ -124,8 +123,8 @@ bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   draft_.source.line = header.line;
   symbols_.clear();
   symbol_index_ = cdm::NameIndex([this](uint32_t i) { return NameOf(symbols_[i]); });
-  instance_index_ =
-      cdm::NameIndex([this](uint32_t i) { return draft_.names.View(draft_.cell_names[i]); });
+  instance_hashes_.clear();
+  instance_lines_.clear();
   bit_symbol_.clear();
   parent_.clear();
   tie_.clear();
@@ -252,9 +251,8 @@ bool NetlistBuilder::Instance(const InstanceAst& inst) {
   uint32_t name = 0;
   if (!AddName(inst.name, name)) return false;
   draft_.cell_names.push_back(name);
-  if (instance_index_.Insert(inst.name, index) != index)
-    return Fail("instance '" + std::string(inst.name) + "' is defined twice in module '" +
-                design_->Name() + "'");
+  instance_hashes_.push_back(cdm::NameIndex::Hash(inst.name));
+  instance_lines_.push_back(inst.line);
   draft_.cell_refs.push_back(names_.Intern(inst.ref));
   for (const AttrAst& attr : inst.attrs)
     draft_.cell_attributes.emplace_back(index, MakeAttribute(attr));
@@ -412,8 +410,56 @@ bool NetlistBuilder::FinishNets() {
   return true;
 }
 
+bool NetlistBuilder::CheckInstanceNames() {
+  // A table of a million names misses the cache on every insert. Instead
+  // the names are split by the top bits of their hashes into parts of a
+  // few thousand, each checked in a small table that stays in the cache.
+  // The duplicate reported is the one a reader going through the file
+  // meets first: the earliest instance whose name came before.
+  const uint32_t count = static_cast<uint32_t>(instance_hashes_.size());
+  int part_bits = 0;
+  while (part_bits < 16 && (count >> part_bits) > 2048) ++part_bits;
+  const uint32_t parts = 1u << part_bits;
+  const auto part_of = [&](uint32_t hash) { return part_bits ? hash >> (32 - part_bits) : 0; };
+  std::vector<uint32_t> starts(parts + 1, 0);
+  for (uint32_t hash : instance_hashes_) ++starts[part_of(hash) + 1];
+  for (uint32_t p = 0; p < parts; ++p) starts[p + 1] += starts[p];
+  cdm::PodArray<uint32_t> order;
+  order.resize(count);
+  std::vector<uint32_t> next(starts.begin(), starts.end() - 1);
+  for (uint32_t i = 0; i < count; ++i) order[next[part_of(instance_hashes_[i])]++] = i;
+  uint32_t first_duplicate = UINT32_MAX;
+  cdm::PodArray<uint32_t> table;
+  for (uint32_t p = 0; p < parts; ++p) {
+    const uint32_t size = starts[p + 1] - starts[p];
+    uint32_t slots = 16;
+    while (slots < size * 2) slots *= 2;
+    table.assign(slots, UINT32_MAX);
+    for (uint32_t k = starts[p]; k < starts[p + 1]; ++k) {
+      const uint32_t index = order[k];  // ascending within a part
+      const uint32_t hash = instance_hashes_[index];
+      for (uint32_t s = hash & (slots - 1);; s = (s + 1) & (slots - 1)) {
+        const uint32_t seen = table[s];
+        if (seen == UINT32_MAX) {
+          table[s] = index;
+          break;
+        }
+        if (instance_hashes_[seen] == hash && draft_.names.View(draft_.cell_names[seen]) ==
+                                                  draft_.names.View(draft_.cell_names[index])) {
+          first_duplicate = std::min(first_duplicate, index);
+          break;
+        }
+      }
+    }
+  }
+  if (first_duplicate == UINT32_MAX) return true;
+  return Fail("instance '" + std::string(draft_.names.View(draft_.cell_names[first_duplicate])) +
+                  "' is defined twice in module '" + design_->Name() + "'",
+              instance_lines_[first_duplicate]);
+}
+
 bool NetlistBuilder::EndModule(uint32_t) {
-  if (!FinishPorts() || !FinishNets()) return false;
+  if (!CheckInstanceNames() || !FinishPorts() || !FinishNets()) return false;
   done_names_.insert(design_->Name());
   done_.push_back(Finished{std::move(design_), std::move(draft_)});
   draft_ = cdm::ModuleDraft();
@@ -424,7 +470,8 @@ bool NetlistBuilder::Commit(std::vector<std::string>& names, std::string& error)
   // The reading state goes first: the definitions take its place.
   symbols_.clear();
   symbol_index_ = cdm::NameIndex([](uint32_t) { return std::string_view(); });
-  instance_index_ = cdm::NameIndex([](uint32_t) { return std::string_view(); });
+  instance_hashes_.clear();
+  instance_lines_.clear();
   bit_symbol_.clear();
   parent_.clear();
   tie_.clear();

@@ -73,6 +73,7 @@ class NetlistBuilder : public StatementSink {
   bool SymbolBit(const Symbol& symbol, int index, int32_t& bit);
   int32_t FindRoot(int32_t bit);
   std::string BitName(uint32_t bit) const;
+  bool CheckInstanceNames();
   bool FinishPorts();
   bool FinishNets();
 
@@ -95,7 +96,10 @@ class NetlistBuilder : public StatementSink {
   std::vector<uint32_t> header_ports_;  // name offsets, in header order
   cdm::PodArray<Symbol> symbols_;
   cdm::NameIndex symbol_index_;
-  cdm::NameIndex instance_index_;
+  // The hash and line of each instance name, in order: duplicates are
+  // looked for once the module is read (CheckInstanceNames).
+  cdm::PodArray<uint32_t> instance_hashes_;
+  cdm::PodArray<uint32_t> instance_lines_;
   cdm::PodArray<uint32_t> bit_symbol_;  // bit -> symbol
   cdm::PodArray<int32_t> parent_;       // union-find over bits
   cdm::PodArray<int8_t> tie_;           // per bit: -1, 0 or 1 from assigns

@@ -318,3 +318,24 @@ TEST_F(VerilogReaderTest, DamagedGzipIsAnError) {
 }
 
 }  // namespace
+
+TEST_F(VerilogReaderTest, OfSeveralDuplicateInstancesTheFirstMetInTheFileIsReported) {
+  // Enough instances that the names are checked in parts; the names defined
+  // again are in the order opposite to their first definitions, and in
+  // different parts of the hash space.
+  const auto module = [](const std::string& name, const std::vector<std::string>& again) {
+    std::string text = "module " + name + " ();\n";  // line 1
+    for (int i = 0; i < 10000; ++i) text += " X u" + std::to_string(i) + " ();\n";
+    for (const std::string& name : again) text += " X " + name + " ();\n";
+    return text + "endmodule\n";
+  };
+  EXPECT_TRUE(Read(module("m", {"v1", "v2"}))) << error_;
+  EXPECT_EQ(D("m")->CellCount(), 10002u);
+  EXPECT_FALSE(Read(module("a", {"v1", "u9000", "u1", "u9000"}), "two.v"));
+  EXPECT_EQ(error_, "two.v:10003: instance 'u9000' is defined twice in module 'a'");
+  EXPECT_FALSE(Read(module("b", {"u1", "u9000"}), "three.v"));
+  EXPECT_EQ(error_, "three.v:10002: instance 'u1' is defined twice in module 'b'");
+  // Among the new names too.
+  EXPECT_FALSE(Read(module("c", {"w", "x", "x", "w"}), "four.v"));
+  EXPECT_EQ(error_, "four.v:10004: instance 'x' is defined twice in module 'c'");
+}
