@@ -54,16 +54,39 @@ void RemoveFolder(const std::string& folder) {
   rmdir(folder.c_str());
 }
 
+// Every command takes "> FILE" to send its output to a file: inputs write
+// files of any name, so each input runs in a scratch folder of the harness.
+// The folder is left again after the input, since libFuzzer reads and
+// writes its corpus by paths relative to where it was started.
+class InScratchFolder {
+ public:
+  InScratchFolder() {
+    if (!getcwd(home_, sizeof home_) || chdir(Folder().c_str()) != 0) std::abort();
+  }
+  ~InScratchFolder() {
+    if (chdir(home_) != 0) std::abort();
+  }
+
+ private:
+  static const std::string& Folder() {
+    static const std::string folder = [] {
+      const char* tmp = std::getenv("TMPDIR");
+      std::string made = std::string(tmp && *tmp ? tmp : "/tmp") + "/kelvo_fuzz_sdc_XXXXXX";
+      if (!mkdtemp(&made[0])) std::abort();
+      return made;
+    }();
+    static const bool removed_at_exit = std::atexit([] { RemoveFolder(Folder()); }) == 0;
+    (void)removed_at_exit;
+    return folder;
+  }
+
+  char home_[4096];
+};
+
 // One interpreter for all inputs, over the small design of the constraint
 // tests, linked once; the constraints stay from one input to the next.
 Tcl_Interp* Interp() {
   static Tcl_Interp* interp = [] {
-    // Every command takes "> FILE" to send its output to a file: inputs
-    // write files of any name, so the harness works in a folder of its own.
-    const char* tmp = std::getenv("TMPDIR");
-    static std::string folder = std::string(tmp && *tmp ? tmp : "/tmp") + "/kelvo_fuzz_sdc_XXXXXX";
-    if (!mkdtemp(&folder[0]) || chdir(folder.c_str()) != 0) std::abort();
-    std::atexit([] { RemoveFolder(folder); });
     Tcl_Interp* made = Tcl_CreateInterp();
     cmdlib::CreateHostCommands();
     cmdlib::BindCommands(made);
@@ -98,6 +121,7 @@ Tcl_Interp* Interp() {
 }  // namespace
 
 std::string FuzzSdc(std::string_view input) {
+  const InScratchFolder scratch;
   Tcl_Interp* interp = Interp();
   std::string path;
   const int fd = InputAsFile(input, path);
