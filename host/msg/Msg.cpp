@@ -108,7 +108,16 @@ void ReportMsg(MsgTag tag, ...) {
     return;
   }
   va_list args;
+  // The tag's type is fixed as int, so it is passed as the int it promotes
+  // to; clang still warns that va_start follows an enum parameter.
+#if defined(__clang__)
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wvarargs"
+#endif
   va_start(args, tag);
+#if defined(__clang__)
+#pragma clang diagnostic pop
+#endif
   std::string body = FormatV(entry->text, args);
   va_end(args);
   IssueComposed(tag, entry->severity, body, Location());
