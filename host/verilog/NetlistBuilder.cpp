@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "cmdlib/ReadFiles.h"
 #include "db/Netlist.h"
 #include "db/NetlistEditor.h"
 #include "hostapi/cdm/Design.h"
@@ -55,10 +56,7 @@ std::string BaseName(const std::string& path) {
 }  // namespace
 
 NetlistBuilder::NetlistBuilder(cdm::Root* root, std::string file_name)
-    : root_(root),
-      names_(root),
-      file_name_(std::move(file_name)),
-      symbol_index_([this](uint32_t i) { return NameOf(symbols_[i]); }) {
+    : root_(root), names_(root), file_name_(std::move(file_name)) {
   owner_ = std::make_shared<cdm::Object>(root_->Intern(BaseName(file_name_)));
 }
 
@@ -75,9 +73,8 @@ bool NetlistBuilder::AddName(std::string_view name, uint32_t& offset) {
   return Fail("module '" + design_->Name() + "' has more names than fit in 1 GiB");
 }
 
-NetlistBuilder::Symbol* NetlistBuilder::FindSymbol(std::string_view name) {
-  uint32_t index = symbol_index_.Find(name);
-  return index == cdm::NameIndex::kNone ? nullptr : &symbols_[index];
+NetlistBuilder::Symbol* NetlistBuilder::FindSymbol(uint32_t number) {
+  return number < symbols_.size() ? &symbols_[number] : nullptr;
 }
 
 uint32_t NetlistBuilder::Width(const Symbol& symbol) const {
@@ -85,15 +82,20 @@ uint32_t NetlistBuilder::Width(const Symbol& symbol) const {
   return static_cast<uint32_t>(std::abs(static_cast<int64_t>(symbol.msb) - symbol.lsb)) + 1;
 }
 
-NetlistBuilder::Symbol* NetlistBuilder::AddSymbol(std::string_view name, const Range& range,
-                                                  uint32_t line) {
+NetlistBuilder::Symbol* NetlistBuilder::AddSymbol(std::string_view name, uint32_t number,
+                                                  const Range& range) {
+  // The parser numbers names in the order they are met here.
+  if (number != symbols_.size()) {
+    Fail("internal error: '" + std::string(name) + "' is numbered " + std::to_string(number) +
+         ", expected " + std::to_string(symbols_.size()));
+    return nullptr;
+  }
   Symbol symbol;
   if (!AddName(name, symbol.name)) return nullptr;
   symbol.ranged = range.present;
   symbol.msb = range.msb;
   symbol.lsb = range.lsb;
   symbol.length = static_cast<uint32_t>(name.size());
-  (void)line;
   symbol.first_bit = static_cast<uint32_t>(bit_symbol_.size());
   uint32_t index = static_cast<uint32_t>(symbols_.size());
   uint32_t width = Width(symbol);
@@ -103,11 +105,10 @@ NetlistBuilder::Symbol* NetlistBuilder::AddSymbol(std::string_view name, const R
     tie_.push_back(-1);
   }
   symbols_.push_back(symbol);
-  symbol_index_.Insert(name, index);
   return &symbols_.back();
 }
 
-bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
+bool NetlistBuilder::BeginModule(ModuleHeaderAst& header) {
   std::string name(header.name);
   if (root_->FindDesign(name)) return Fail("module '" + name + "' is already loaded");
   if (done_names_.count(name)) return Fail("module '" + name + "' is defined twice");
@@ -122,7 +123,6 @@ bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
   draft_.source.file = file_name_;
   draft_.source.line = header.line;
   symbols_.clear();
-  symbol_index_ = cdm::NameIndex([this](uint32_t i) { return NameOf(symbols_[i]); });
   instance_hashes_.clear();
   instance_lines_.clear();
   bit_symbol_.clear();
@@ -138,20 +138,21 @@ bool NetlistBuilder::BeginModule(const ModuleHeaderAst& header) {
     if (!AddName(header.ports[i], offset)) return false;
     header_ports_.push_back(offset);
   }
-  for (const DeclAst& decl : header.ansi_decls)
+  for (DeclAst& decl : header.ansi_decls)
     if (!Declare(decl, {})) return false;
   return true;
 }
 
-bool NetlistBuilder::Declare(const DeclAst& decl, const std::vector<AttrAst>&) {
+bool NetlistBuilder::Declare(DeclAst& decl, const std::vector<AttrAst>&) {
   int direction = decl.kind == DeclKind::kInput    ? 0
                   : decl.kind == DeclKind::kOutput ? 1
                   : decl.kind == DeclKind::kInout  ? 2
                                                    : -1;
-  for (std::string_view name : decl.names) {
-    Symbol* symbol = FindSymbol(name);
+  for (size_t i = 0; i < decl.names.size(); ++i) {
+    const std::string_view name = decl.names[i];
+    Symbol* symbol = FindSymbol(decl.symbols[i]);
     if (!symbol) {
-      symbol = AddSymbol(name, decl.range, decl.line);
+      symbol = AddSymbol(name, decl.symbols[i], decl.range);
       if (!symbol) return false;
     } else if (!symbol->declared) {
       if (decl.range.present)
@@ -215,8 +216,8 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
       return true;
     }
     case Expr::kName: {
-      Symbol* symbol = FindSymbol(expr.name);
-      if (!symbol) symbol = AddSymbol(expr.name, Range(), expr.line);  // implicit net
+      Symbol* symbol = FindSymbol(expr.symbol);
+      if (!symbol) symbol = AddSymbol(expr.name, expr.symbol, Range());  // implicit net
       if (!symbol) return false;
       uint32_t width = Width(*symbol);
       if (!RoomFor(bits, width)) return false;
@@ -226,7 +227,7 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
     }
     case Expr::kBitSelect:
     case Expr::kPartSelect: {
-      const Symbol* symbol = FindSymbol(expr.name);
+      const Symbol* symbol = FindSymbol(expr.symbol);
       if (!symbol) return Fail("unknown net '" + std::string(expr.name) + "'");
       int from = expr.kind == Expr::kBitSelect ? expr.index : expr.msb;
       int to = expr.kind == Expr::kBitSelect ? expr.index : expr.lsb;
@@ -246,12 +247,12 @@ bool NetlistBuilder::ExprBits(const Expr& expr, std::vector<int32_t>& bits) {
   return Fail("empty expression");
 }
 
-bool NetlistBuilder::Instance(const InstanceAst& inst) {
+bool NetlistBuilder::Instance(InstanceAst& inst) {
   uint32_t index = static_cast<uint32_t>(draft_.cell_names.size());
   uint32_t name = 0;
   if (!AddName(inst.name, name)) return false;
   draft_.cell_names.push_back(name);
-  instance_hashes_.push_back(cdm::NameIndex::Hash(inst.name));
+  instance_hashes_.push_back(inst.name_hash);
   instance_lines_.push_back(inst.line);
   draft_.cell_refs.push_back(names_.Intern(inst.ref));
   for (const AttrAst& attr : inst.attrs)
@@ -285,7 +286,7 @@ int32_t NetlistBuilder::FindRoot(int32_t bit) {
   return bit;
 }
 
-bool NetlistBuilder::Assign(const AssignAst& assign) {
+bool NetlistBuilder::Assign(AssignAst& assign) {
   scratch_lhs_.clear();
   scratch_rhs_.clear();
   if (!ExprBits(assign.lhs, scratch_lhs_) || !ExprBits(assign.rhs, scratch_rhs_)) return false;
@@ -322,16 +323,20 @@ bool NetlistBuilder::FinishPorts() {
   cdm::NameIndex listed([&](uint32_t i) { return draft_.names.View(header_ports_[i]); });
   for (size_t i = 0; i < header_ports_.size(); ++i)
     listed.Insert(draft_.names.View(header_ports_[i]), static_cast<uint32_t>(i));
-  for (const Symbol& symbol : symbols_) {
+  // The names declared with a direction, to find the header's ports in.
+  cdm::NameIndex declared([&](uint32_t i) { return NameOf(symbols_[i]); });
+  for (uint32_t i = 0; i < symbols_.size(); ++i) {
+    const Symbol& symbol = symbols_[i];
     if (symbol.direction < 0) continue;
     if (listed.Find(NameOf(symbol)) == cdm::NameIndex::kNone)
       return Fail("'" + std::string(NameOf(symbol)) + "' is declared " +
                   DirectionWord(symbol.direction) + " but is not in the port list of module '" +
                   design_->Name() + "'");
+    declared.Insert(NameOf(symbol), i);
   }
   for (uint32_t offset : header_ports_) {
     std::string_view name = draft_.names.View(offset);
-    Symbol* symbol = FindSymbol(name);
+    Symbol* symbol = FindSymbol(declared.Find(name));
     if (!symbol || symbol->direction < 0)
       return Fail("port '" + std::string(name) + "' of module '" + design_->Name() +
                   "' has no direction");
@@ -458,6 +463,10 @@ bool NetlistBuilder::CheckInstanceNames() {
               instance_lines_[first_duplicate]);
 }
 
+void NetlistBuilder::Checkpoint(size_t offset, size_t total) {
+  cmdlib::ReadCheckpoint(offset, total);
+}
+
 bool NetlistBuilder::EndModule(uint32_t) {
   if (!CheckInstanceNames() || !FinishPorts() || !FinishNets()) return false;
   done_names_.insert(design_->Name());
@@ -469,7 +478,6 @@ bool NetlistBuilder::EndModule(uint32_t) {
 bool NetlistBuilder::Commit(std::vector<std::string>& names, std::string& error) {
   // The reading state goes first: the definitions take its place.
   symbols_.clear();
-  symbol_index_ = cdm::NameIndex([](uint32_t) { return std::string_view(); });
   instance_hashes_.clear();
   instance_lines_.clear();
   bit_symbol_.clear();

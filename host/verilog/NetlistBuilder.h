@@ -29,11 +29,13 @@ class NetlistBuilder : public StatementSink {
   NetlistBuilder(cdm::Root* root, std::string file_name);
   ~NetlistBuilder() override;
 
-  bool BeginModule(const ModuleHeaderAst& header) override;
-  bool Declare(const DeclAst& decl, const std::vector<AttrAst>& attrs) override;
-  bool Instance(const InstanceAst& instance) override;
-  bool Assign(const AssignAst& assign) override;
+  bool BeginModule(ModuleHeaderAst& header) override;
+  bool Declare(DeclAst& decl, const std::vector<AttrAst>& attrs) override;
+  bool Instance(InstanceAst& instance) override;
+  bool Assign(AssignAst& assign) override;
   bool EndModule(uint32_t line) override;
+  // Stops the read on Ctrl-C and draws the progress line of a large file.
+  void Checkpoint(size_t offset, size_t total) override;
 
   // The complaint behind the last false return.
   const std::string& Error() const override { return error_; }
@@ -60,8 +62,10 @@ class NetlistBuilder : public StatementSink {
   std::string_view NameOf(const Symbol& symbol) const {
     return std::string_view(draft_.names.Data() + symbol.name, symbol.length);
   }
-  Symbol* FindSymbol(std::string_view name);
-  Symbol* AddSymbol(std::string_view name, const Range& range, uint32_t line);
+  // The symbol of a name's number (VerilogAst's kNoSymbol, or a number not
+  // met yet: none).
+  Symbol* FindSymbol(uint32_t number);
+  Symbol* AddSymbol(std::string_view name, uint32_t number, const Range& range);
   uint32_t Width(const Symbol& symbol) const;
   bool AddName(std::string_view name, uint32_t& offset);
   // Bits of an expression, most significant first: bit ids, or the
@@ -94,8 +98,7 @@ class NetlistBuilder : public StatementSink {
   std::unique_ptr<cdm::Design> design_;
   cdm::ModuleDraft draft_;
   std::vector<uint32_t> header_ports_;  // name offsets, in header order
-  cdm::PodArray<Symbol> symbols_;
-  cdm::NameIndex symbol_index_;
+  cdm::PodArray<Symbol> symbols_;       // by the number the parser gives names
   // The hash and line of each instance name, in order: duplicates are
   // looked for once the module is read (CheckInstanceNames).
   cdm::PodArray<uint32_t> instance_hashes_;

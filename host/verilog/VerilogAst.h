@@ -2,12 +2,16 @@
 // builder, one at a time: views into the source buffer plus line numbers.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace verilog {
+
+// A net name's number in its module (NameNumbering), or none yet.
+constexpr uint32_t kNoSymbol = UINT32_MAX;
 
 struct Range {
   bool present = false;
@@ -20,11 +24,13 @@ struct Expr {
   enum Kind : uint8_t { kNone, kName, kBitSelect, kPartSelect, kConstant, kConcat };
   Kind kind = kNone;
   std::string_view name;
-  int index = 0;            // bit select
-  int msb = 0, lsb = 0;     // part select
-  std::string bits;         // constant: '0' '1' 'x' 'z', most significant first
-  std::vector<Expr> items;  // concatenation: its items, once
-  uint32_t repeat = 1;      // concatenation: how often the items stand ({N{...}})
+  int index = 0;                // bit select
+  int msb = 0, lsb = 0;         // part select
+  std::string bits;             // constant: '0' '1' 'x' 'z', most significant first
+  std::vector<Expr> items;      // concatenation: its items, once
+  uint32_t repeat = 1;          // concatenation: how often the items stand ({N{...}})
+  uint32_t symbol = kNoSymbol;  // name, bit or part select: the name's number
+  uint32_t name_hash = 0;       // of the name, for NameNumbering; 0: not worked out yet
   uint32_t line = 0;
 };
 
@@ -40,6 +46,7 @@ struct DeclAst {
   DeclKind kind = DeclKind::kWire;
   Range range;
   std::vector<std::string_view> names;
+  std::vector<uint32_t> symbols;  // the names' numbers
   uint32_t line = 0;
 };
 
@@ -62,6 +69,7 @@ struct InstanceAst {
   std::string_view name;
   std::vector<ConnAst> conns;
   std::vector<AttrAst> attrs;
+  uint32_t name_hash = 0;  // NameIndex::Hash of the name
   uint32_t line = 0;
 };
 
@@ -79,11 +87,15 @@ class StatementSink {
   virtual const std::string& Error() const = 0;
   // The line the complaint is about, when not the statement's own; 0 else.
   virtual uint32_t ErrorLine() const { return 0; }
-  virtual bool BeginModule(const ModuleHeaderAst& header) = 0;
-  virtual bool Declare(const DeclAst& decl, const std::vector<AttrAst>& attrs) = 0;
-  virtual bool Instance(const InstanceAst& instance) = 0;
-  virtual bool Assign(const AssignAst& assign) = 0;
+  // A statement is the parser's own, reused: a sink may fill in what the
+  // parser leaves out (the names' numbers) before passing it on.
+  virtual bool BeginModule(ModuleHeaderAst& header) = 0;
+  virtual bool Declare(DeclAst& decl, const std::vector<AttrAst>& attrs) = 0;
+  virtual bool Instance(InstanceAst& instance) = 0;
+  virtual bool Assign(AssignAst& assign) = 0;
   virtual bool EndModule(uint32_t line) = 0;
+  // Between statements: how far into the text the parser is.
+  virtual void Checkpoint(size_t offset, size_t total) = 0;
 };
 
 }  // namespace verilog

@@ -4,20 +4,18 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "cmdlib/ReadFiles.h"
-
 namespace verilog {
 namespace {
 
 // Words that start code a structural reader cannot take.
 bool IsBehaviouralWord(std::string_view word) {
-  static const char* const kWords[] = {
+  static constexpr std::string_view kWords[] = {
       "always",    "initial", "reg",       "integer",     "real",     "time",
       "function",  "task",    "generate",  "genvar",      "defparam", "specify",
       "if",        "case",    "for",       "while",       "forever",  "repeat",
       "primitive", "event",   "always_ff", "always_comb", "logic",
   };
-  for (const char* candidate : kWords)
+  for (std::string_view candidate : kWords)
     if (word == candidate) return true;
   return false;
 }
@@ -401,7 +399,7 @@ bool VerilogParser::ParseModule(const std::vector<AttrAst>& attrs) {
   if (!sink_.BeginModule(header)) return SinkFail(name.line);
   std::vector<AttrAst> item_attrs;
   for (;;) {
-    cmdlib::ReadCheckpoint(lexer_.Offset(), lexer_.Size());
+    sink_.Checkpoint(lexer_.Offset(), lexer_.Size());
     if (!ParseAttributes(item_attrs)) return false;
     Token token = lexer_.Next();
     if (token.IsWord("endmodule")) {
@@ -438,7 +436,9 @@ bool VerilogParser::ParseModule(const std::vector<AttrAst>& attrs) {
 
 bool VerilogParser::ParseDecl(DeclKind kind, uint32_t line, const std::vector<AttrAst>& attrs,
                               int tie) {
-  DeclAst decl;
+  DeclAst& decl = decl_;
+  decl.names.clear();
+  decl.range = Range();
   decl.kind = kind;
   decl.line = line;
   if (kind != DeclKind::kWire) {

@@ -60,6 +60,7 @@ class VerilogParser {
   StatementSink& sink_;
   ParseError* error_ = nullptr;
   InstanceAst instance_;  // reused: instances are most of a netlist
+  DeclAst decl_;          // reused: a flat netlist declares a wire a line
   uint64_t declared_bits_ = 0;
 };
 

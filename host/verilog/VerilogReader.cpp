@@ -1,23 +1,26 @@
 #include "verilog/VerilogReader.h"
 
 #include <new>
+#include <thread>
 
 #include "msg/SafeText.h"
 #include "verilog/NetlistBuilder.h"
+#include "verilog/ParseStatements.h"
 #include "verilog/SourceBuffer.h"
-#include "verilog/VerilogLexer.h"
-#include "verilog/VerilogParser.h"
 
 namespace verilog {
 namespace {
 
+bool InTwoThreads(std::string_view text, ParseThreads threads) {
+  if (threads != ParseThreads::kAuto) return threads == ParseThreads::kTwo;
+  return text.size() >= kTwoThreadParseSize && std::thread::hardware_concurrency() > 1;
+}
+
 // Parses `text` into `builder`; `text` may go once this returns.
 bool Parse(std::string_view text, const std::string& file_name, NetlistBuilder& builder,
-           std::string& error) {
-  VerilogLexer lexer(text);
-  VerilogParser parser(lexer, builder);
+           ParseThreads threads, std::string& error) {
   ParseError parse_error;
-  if (parser.Parse(parse_error)) return true;
+  if (ParseStatements(text, builder, InTwoThreads(text, threads), parse_error)) return true;
   error = file_name + ":" + std::to_string(parse_error.line) + ": " +
           msg::CutQuotes(parse_error.message);
   return false;
@@ -39,9 +42,10 @@ bool Commit(NetlistBuilder& builder, const std::string& file_name,
 }  // namespace
 
 bool ReadVerilogText(cdm::Root* root, const std::string& text, const std::string& file_name,
-                     std::vector<std::string>& modules, std::string& error) {
+                     std::vector<std::string>& modules, std::string& error, ParseThreads threads) {
   NetlistBuilder builder(root, file_name);
-  return Parse(text, file_name, builder, error) && Commit(builder, file_name, modules, error);
+  return Parse(text, file_name, builder, threads, error) &&
+         Commit(builder, file_name, modules, error);
 }
 
 bool ReadVerilogFile(cdm::Root* root, const std::string& path, std::vector<std::string>& modules,
@@ -51,7 +55,7 @@ bool ReadVerilogFile(cdm::Root* root, const std::string& path, std::vector<std::
     {
       io::TextBuffer text;
       if (!ReadSourceFile(path, text, error)) return false;
-      if (!Parse(text.view(), path, builder, error)) return false;
+      if (!Parse(text.view(), path, builder, ParseThreads::kAuto, error)) return false;
     }  // the text goes before the definitions are made
     return Commit(builder, path, modules, error);
   } catch (const std::bad_alloc&) {

@@ -16,8 +16,13 @@ namespace verilog {
 bool ReadVerilogFile(cdm::Root* root, const std::string& path, std::vector<std::string>& modules,
                      std::string& error);
 
+// Whether the parser gets a thread of its own: by the text's size and the
+// machine (kAuto), or as asked (the tests compare the two).
+enum class ParseThreads { kAuto, kOne, kTwo };
+
 // The same over text in memory; `file_name` is used in messages.
 bool ReadVerilogText(cdm::Root* root, const std::string& text, const std::string& file_name,
-                     std::vector<std::string>& modules, std::string& error);
+                     std::vector<std::string>& modules, std::string& error,
+                     ParseThreads threads = ParseThreads::kAuto);
 
 }  // namespace verilog

@@ -1,0 +1,112 @@
+#include "verilog/NameNumbering.h"
+
+#include <cstring>
+
+namespace verilog {
+
+NameNumbering::NameNumbering() {
+  BeginModule();
+}
+
+void NameNumbering::BeginModule() {
+  slots_.assign(1024, Slot());
+  mask_ = slots_.size() - 1;
+  count_ = 0;
+}
+
+NameNumbering::Slot& NameNumbering::SlotOf(std::string_view name, uint32_t hash) {
+  for (size_t i = hash & mask_;; i = (i + 1) & mask_) {
+    Slot& slot = slots_[i];
+    if (!slot.text) return slot;
+    if (slot.hash == hash && slot.length == name.size() &&
+        std::memcmp(slot.text, name.data(), name.size()) == 0)
+      return slot;
+  }
+}
+
+uint32_t NameNumbering::Find(std::string_view name, uint32_t hash) {
+  const Slot& slot = SlotOf(name, hash);
+  return slot.text ? slot.number : kNoSymbol;
+}
+
+uint32_t NameNumbering::FindOrAdd(std::string_view name, uint32_t hash) {
+  Slot* slot = &SlotOf(name, hash);
+  if (slot->text) return slot->number;
+  if ((size_t{count_} + 1) * 2 > slots_.size()) {
+    Grow();
+    slot = &SlotOf(name, hash);
+  }
+  // An empty name still needs a non-null text to mark its slot taken.
+  slot->text = name.data() ? name.data() : "";
+  slot->length = static_cast<uint32_t>(name.size());
+  slot->hash = hash;
+  slot->number = count_;
+  return count_++;
+}
+
+void NameNumbering::Grow() {
+  cdm::PodArray<Slot> old;
+  old.swap(slots_);
+  slots_.assign(old.size() * 2, Slot());
+  mask_ = slots_.size() - 1;
+  for (const Slot& slot : old) {
+    if (!slot.text) continue;
+    size_t i = slot.hash & mask_;
+    while (slots_[i].text) i = (i + 1) & mask_;
+    slots_[i] = slot;
+  }
+}
+
+void NameNumbering::Number(DeclAst& decl) {
+  decl.symbols.resize(decl.names.size());
+  for (size_t i = 0; i < decl.names.size(); ++i)
+    decl.symbols[i] = FindOrAdd(decl.names[i], HashOf(decl.names[i]));
+}
+
+void NameNumbering::Number(Expr& expr) {
+  switch (expr.kind) {
+    case Expr::kName:
+      expr.symbol = FindOrAdd(expr.name, HashOf(expr));
+      break;
+    case Expr::kBitSelect:
+    case Expr::kPartSelect:
+      expr.symbol = Find(expr.name, HashOf(expr));
+      break;
+    case Expr::kConcat:
+      // As deep as the parser allows concatenations to nest.
+      for (Expr& item : expr.items) Number(item);
+      break;
+    case Expr::kConstant:
+    case Expr::kNone:
+      break;
+  }
+}
+
+void NameNumbering::Number(InstanceAst& instance) {
+  instance.name_hash = cdm::NameIndex::Hash(instance.name);
+  for (ConnAst& conn : instance.conns)
+    if (!conn.empty) Number(conn.expr);
+}
+
+void NameNumbering::Hash(Expr& expr) {
+  switch (expr.kind) {
+    case Expr::kName:
+    case Expr::kBitSelect:
+    case Expr::kPartSelect:
+      expr.name_hash = HashOf(expr.name);
+      break;
+    case Expr::kConcat:
+      for (Expr& item : expr.items) Hash(item);
+      break;
+    case Expr::kConstant:
+    case Expr::kNone:
+      break;
+  }
+}
+
+void NameNumbering::Hash(InstanceAst& instance) {
+  for (ConnAst& conn : instance.conns)
+    if (!conn.empty) Hash(conn.expr);
+}
+
+}  // namespace verilog

@@ -1,0 +1,64 @@
+// Numbers the net names of a module in the order the netlist builder meets
+// them, so that the builder finds a name's symbol by its number and keeps
+// no name table. The names' hashes may be worked out before, elsewhere:
+// the parsing thread does it for instances' connections.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "db/NameIndex.h"
+#include "db/PodArray.h"
+#include "verilog/VerilogAst.h"
+
+namespace verilog {
+
+class NameNumbering {
+ public:
+  NameNumbering();
+
+  // A new module: its names are numbered from 0.
+  void BeginModule();
+  // A declaration's names: found, or numbered when new.
+  void Number(DeclAst& decl);
+  // The names of an expression, in the builder's order: a plain name is
+  // numbered when new (an implicit net); a selected one only found.
+  void Number(Expr& expr);
+  // The connections of an instance, and its name's hash.
+  void Number(InstanceAst& instance);
+
+  // Works out the hashes of the connections' names ahead, where that is
+  // cheaper (on the thread that parsed them, with their text in cache).
+  static void Hash(InstanceAst& instance);
+  // The hash a name is numbered under; never 0.
+  static uint32_t HashOf(std::string_view name) {
+    const uint32_t hash = cdm::NameIndex::Hash(name);
+    return hash ? hash : 1;
+  }
+
+ private:
+  // A name and its number. The name is a view into the source text: a
+  // look-up costs one cache miss for the slot and one for the text.
+  struct Slot {
+    const char* text = nullptr;  // null: the slot is free
+    uint32_t length = 0;
+    uint32_t hash = 0;
+    uint32_t number = 0;
+  };
+
+  // The slot of `name`: its own, or the free one it would take.
+  Slot& SlotOf(std::string_view name, uint32_t hash);
+  static void Hash(Expr& expr);
+  static uint32_t HashOf(const Expr& expr) {
+    return expr.name_hash ? expr.name_hash : HashOf(expr.name);
+  }
+  uint32_t Find(std::string_view name, uint32_t hash);
+  uint32_t FindOrAdd(std::string_view name, uint32_t hash);
+  void Grow();
+
+  cdm::PodArray<Slot> slots_;
+  size_t mask_ = 0;
+  uint32_t count_ = 0;  // names numbered in the module
+};
+
+}  // namespace verilog
