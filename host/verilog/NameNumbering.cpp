@@ -8,9 +8,18 @@ NameNumbering::NameNumbering() {
   BeginModule();
 }
 
+void NameNumbering::Reset(io::TextBuffer& table, size_t count) {
+  table.resize(count * sizeof(Slot));
+  std::memset(table.data(), 0, count * sizeof(Slot));  // a free slot is all zeros
+}
+
 void NameNumbering::BeginModule() {
-  slots_.assign(1024, Slot());
-  mask_ = slots_.size() - 1;
+  constexpr size_t kFirstSlots = 1024;
+  // A large table of the module before goes back to the system.
+  if (mask_ + 1 > kFirstSlots) table_.clear();
+  Reset(table_, kFirstSlots);
+  slots_ = reinterpret_cast<Slot*>(table_.data());
+  mask_ = kFirstSlots - 1;
   count_ = 0;
 }
 
@@ -32,7 +41,7 @@ uint32_t NameNumbering::Find(std::string_view name, uint32_t hash) {
 uint32_t NameNumbering::FindOrAdd(std::string_view name, uint32_t hash) {
   Slot* slot = &SlotOf(name, hash);
   if (slot->text) return slot->number;
-  if ((size_t{count_} + 1) * 2 > slots_.size()) {
+  if ((size_t{count_} + 1) * 2 > mask_ + 1) {
     Grow();
     slot = &SlotOf(name, hash);
   }
@@ -45,16 +54,21 @@ uint32_t NameNumbering::FindOrAdd(std::string_view name, uint32_t hash) {
 }
 
 void NameNumbering::Grow() {
-  cdm::PodArray<Slot> old;
-  old.swap(slots_);
-  slots_.assign(old.size() * 2, Slot());
-  mask_ = slots_.size() - 1;
-  for (const Slot& slot : old) {
+  const size_t old_count = mask_ + 1;
+  io::TextBuffer grown;
+  // Fresh pages are zero already; only reused ones would need clearing.
+  grown.resize(old_count * 2 * sizeof(Slot));
+  Slot* const old = slots_;
+  slots_ = reinterpret_cast<Slot*>(grown.data());
+  mask_ = old_count * 2 - 1;
+  for (size_t k = 0; k < old_count; ++k) {
+    const Slot& slot = old[k];
     if (!slot.text) continue;
     size_t i = slot.hash & mask_;
     while (slots_[i].text) i = (i + 1) & mask_;
     slots_[i] = slot;
   }
+  table_ = std::move(grown);
 }
 
 void NameNumbering::Number(DeclAst& decl) {

@@ -6,9 +6,10 @@
 
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 
 #include "db/NameIndex.h"
-#include "db/PodArray.h"
+#include "io/TextBuffer.h"
 #include "verilog/VerilogAst.h"
 
 namespace verilog {
@@ -45,6 +46,7 @@ class NameNumbering {
     uint32_t hash = 0;
     uint32_t number = 0;
   };
+  static_assert(std::is_trivially_copyable_v<Slot>, "slots live in raw pages; all zeros is free");
 
   // The slot of `name`: its own, or the free one it would take.
   Slot& SlotOf(std::string_view name, uint32_t hash);
@@ -55,8 +57,13 @@ class NameNumbering {
   uint32_t Find(std::string_view name, uint32_t hash);
   uint32_t FindOrAdd(std::string_view name, uint32_t hash);
   void Grow();
+  // Makes the table `count` free slots (a power of two).
+  void Reset(io::TextBuffer& table, size_t count);
 
-  cdm::PodArray<Slot> slots_;
+  // Pages of their own, zeroed by the system: a grown table goes back to
+  // it whole when replaced, instead of staying in the heap as free memory.
+  io::TextBuffer table_;
+  Slot* slots_ = nullptr;
   size_t mask_ = 0;
   uint32_t count_ = 0;  // names numbered in the module
 };
