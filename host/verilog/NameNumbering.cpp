@@ -4,6 +4,23 @@
 
 namespace verilog {
 
+namespace {
+
+// Calls `visit` on each name of `expr` (a plain, bit or part select), left
+// to right: the builder's order. As deep as the parser lets concatenations
+// nest.
+template <typename Visit>
+void ForEachName(Expr& expr, const Visit& visit) {
+  if (expr.kind == Expr::kConcat) {
+    for (Expr& item : expr.items) ForEachName(item, visit);
+  } else if (expr.kind == Expr::kName || expr.kind == Expr::kBitSelect ||
+             expr.kind == Expr::kPartSelect) {
+    visit(expr);
+  }
+}
+
+}  // namespace
+
 NameNumbering::NameNumbering() {
   BeginModule();
 }
@@ -78,22 +95,10 @@ void NameNumbering::Number(DeclAst& decl) {
 }
 
 void NameNumbering::Number(Expr& expr) {
-  switch (expr.kind) {
-    case Expr::kName:
-      expr.symbol = FindOrAdd(expr.name, HashOf(expr));
-      break;
-    case Expr::kBitSelect:
-    case Expr::kPartSelect:
-      expr.symbol = Find(expr.name, HashOf(expr));
-      break;
-    case Expr::kConcat:
-      // As deep as the parser allows concatenations to nest.
-      for (Expr& item : expr.items) Number(item);
-      break;
-    case Expr::kConstant:
-    case Expr::kNone:
-      break;
-  }
+  ForEachName(expr, [this](Expr& name) {
+    name.symbol = name.kind == Expr::kName ? FindOrAdd(name.name, HashOf(name))
+                                           : Find(name.name, HashOf(name));
+  });
 }
 
 void NameNumbering::Number(InstanceAst& instance) {
@@ -103,19 +108,7 @@ void NameNumbering::Number(InstanceAst& instance) {
 }
 
 void NameNumbering::Hash(Expr& expr) {
-  switch (expr.kind) {
-    case Expr::kName:
-    case Expr::kBitSelect:
-    case Expr::kPartSelect:
-      expr.name_hash = HashOf(expr.name);
-      break;
-    case Expr::kConcat:
-      for (Expr& item : expr.items) Hash(item);
-      break;
-    case Expr::kConstant:
-    case Expr::kNone:
-      break;
-  }
+  ForEachName(expr, [](Expr& name) { name.name_hash = HashOf(name.name); });
 }
 
 void NameNumbering::Hash(InstanceAst& instance) {
