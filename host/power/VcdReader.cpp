@@ -6,8 +6,10 @@
 #include <unordered_set>
 #include <vector>
 
+#include "db/Netlist.h"
 #include "db/PathLookup.h"
 #include "hostapi/cdm/Cell.h"
+#include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Net.h"
 #include "msg/SafeText.h"
 
@@ -185,7 +187,7 @@ class VcdParser {
     const long width = std::strtol(width_text.c_str(), &end, 10);
     if (width_text.empty() || *end != '\0' || width < 1 || width > 1 << 20)
       return Fail(line, "expected a width from 1 to 1048576, found '" + width_text + "'");
-    std::vector<int32_t>& slots = ids_[tokens[2]];  // every id is known, tracked or not
+    std::vector<Tracked>& tracked = ids_[tokens[2]];  // every id is known, tracked or not
     if (tokens[0] == "real" || tokens[0] == "realtime" || tokens[0] == "event" ||
         tokens[0] == "parameter" || !InScope() || (!leaf_.empty() && leaf_.back()))
       return true;
@@ -213,25 +215,43 @@ class VcdParser {
     }
     std::string prefix;
     for (size_t i = Depth(); i < scopes_.size(); ++i) prefix += scopes_[i] + "/";
-    const size_t first_slot = slots.size();
-    slots.resize(first_slot + static_cast<size_t>(width), -1);
-    for (long k = 0; k < width; ++k) {
-      // Bit k from the left of a value.
+    widths_[tokens[2]].push_back(width);
+    // The scope's netlist is found once for all the bits: a scope the design
+    // lacks leaves every bit missing, without a look-up of each (or a slot:
+    // the value changes of the identifier have nothing to do there).
+    const cdm::Netlist* netlist = design_.GetNetlist();
+    if (!prefix.empty()) {
+      const cdm::Cell* cell = cdm::FindCellByPath(&design_, prefix.substr(0, prefix.size() - 1));
+      netlist = cell ? cell->GetChildNetlist() : nullptr;
+    }
+    const auto bit_name = [&](long k) {  // bit k from the left of a value
       const long index = msb >= lsb ? msb - k : msb + k;
-      const std::string name =
-          prefix + base + (indexed ? "[" + std::to_string(index) + "]" : std::string());
-      const cdm::Net* net = cdm::FindNetByPath(&design_, name);
+      return base + (indexed ? "[" + std::to_string(index) + "]" : std::string());
+    };
+    if (!netlist) {
+      if (missing_ == 0) first_missing_ = prefix + bit_name(0);
+      missing_ += static_cast<size_t>(width);
+      return true;
+    }
+    // An identifier may stand for many variables; their bits together are
+    // bounded, so that a few lines cannot ask for minutes of look-ups.
+    looked_up_ += static_cast<size_t>(width);
+    if (looked_up_ > kMaxLookedUp)
+      return Fail(line, "the variables of the design's scopes have more than " +
+                            std::to_string(kMaxLookedUp) + " bits in all");
+    for (long k = 0; k < width; ++k) {
+      const std::string name = bit_name(k);
+      const cdm::Net* net = netlist->FindNet(name);
       if (!net || net->FlatNetId() == 0) {
-        if (missing_++ == 0) first_missing_ = name;
+        if (missing_++ == 0) first_missing_ = prefix + name;
         continue;
       }
-      slots[first_slot + static_cast<size_t>(k)] = static_cast<int32_t>(bits_.size());
+      tracked.push_back(Tracked{static_cast<uint32_t>(k), static_cast<uint32_t>(bits_.size())});
       Bit bit;
       bit.net = net->GetFullName();
       bit.flat = net->FlatNetId();
       bits_.push_back(std::move(bit));
     }
-    widths_[tokens[2]].push_back(width);
     return true;
   }
 
@@ -287,19 +307,18 @@ class VcdParser {
     for (char v : value)
       if (v != '0' && v != '1' && v != 'x' && v != 'X' && v != 'z' && v != 'Z')
         return Fail(line, "expected a value of 0, 1, x and z, found '" + std::string(value) + "'");
-    const std::vector<int32_t>& slots = found->second;
-    if (slots.empty()) return true;
+    const std::vector<Tracked>& tracked = found->second;
+    if (tracked.empty()) return true;
     // Every variable on the identifier has the same width; the value is
     // widened on the left with 0, or with x or z when it starts with one.
     const size_t width = static_cast<size_t>(widths_[id].front());
     const char fill = value[0] == '1' ? '0' : value[0];
-    for (size_t s = 0; s < slots.size(); ++s) {
-      if (slots[s] < 0) continue;
-      const size_t k = s % width;
+    for (const Tracked& one : tracked) {
+      const size_t k = one.position;
       const size_t pad = width > value.size() ? width - value.size() : 0;
       char v = k < pad ? fill : value[k - pad + (value.size() > width ? value.size() - width : 0)];
       v = v == '0' || v == '1' ? v : 'x';
-      Bit& bit = bits_[slots[s]];
+      Bit& bit = bits_[one.bit];
       if (bit.value == v) continue;
       Settle(bit, now_);
       if ((bit.value == '0' && v == '1') || (bit.value == '1' && v == '0')) ++bit.transitions;
@@ -321,8 +340,19 @@ class VcdParser {
   bool found_ = false;
   bool started_ = false;
   uint64_t start_ = 0, now_ = 0, end_ = 0;
-  std::unordered_map<std::string_view, std::vector<int32_t>> ids_;  // slots per bit, -1 untracked
+  // A bit of a variable that stands for a net of the design: its place from
+  // the left of the variable's value, and its figures in bits_.
+  struct Tracked {
+    uint32_t position;
+    uint32_t bit;
+  };
+  // Per identifier, its tracked bits only: a change costs what it touches.
+  std::unordered_map<std::string_view, std::vector<Tracked>> ids_;
   std::unordered_map<std::string_view, std::vector<long>> widths_;
+  // Bits of the variables in the design's scopes looked up, of every
+  // identifier.
+  static constexpr size_t kMaxLookedUp = size_t{1} << 26;
+  size_t looked_up_ = 0;
   std::vector<Bit> bits_;
   size_t missing_ = 0;
   std::string first_missing_;
