@@ -25,16 +25,12 @@ NameNumbering::NameNumbering() {
   BeginModule();
 }
 
-void NameNumbering::Reset(io::TextBuffer& table, size_t count) {
-  table.resize(count * sizeof(Slot));
-  std::memset(table.data(), 0, count * sizeof(Slot));  // a free slot is all zeros
-}
-
 void NameNumbering::BeginModule() {
   constexpr size_t kFirstSlots = 1024;
   // A large table of the module before goes back to the system.
   if (mask_ + 1 > kFirstSlots) table_.clear();
-  Reset(table_, kFirstSlots);
+  table_.resize(kFirstSlots * sizeof(Slot));
+  std::memset(table_.data(), 0, kFirstSlots * sizeof(Slot));  // a free slot is all zeros
   slots_ = reinterpret_cast<Slot*>(table_.data());
   mask_ = kFirstSlots - 1;
   count_ = 0;

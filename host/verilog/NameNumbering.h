@@ -57,8 +57,6 @@ class NameNumbering {
   uint32_t Find(std::string_view name, uint32_t hash);
   uint32_t FindOrAdd(std::string_view name, uint32_t hash);
   void Grow();
-  // Makes the table `count` free slots (a power of two).
-  void Reset(io::TextBuffer& table, size_t count);
 
   // Pages of their own, zeroed by the system: a grown table goes back to
   // it whole when replaced, instead of staying in the heap as free memory.

@@ -6,22 +6,15 @@
 #include <dirent.h>
 
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "FuzzTargets.h"
+#include "support/FileText.h"
 
 namespace {
 
 using Target = std::string (*)(std::string_view);
-
-std::string Slurp(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream bytes;
-  bytes << in.rdbuf();
-  return bytes.str();
-}
 
 // The files kept for harness `name`: its regressions, then its seeds.
 std::vector<std::string> Inputs(const std::string& name) {
@@ -46,7 +39,7 @@ void RunAll(const std::string& name, Target target) {
   for (const std::string& path : paths) {
     std::ifstream probe(path);
     ASSERT_TRUE(probe.good()) << path;
-    EXPECT_EQ(target(Slurp(path)), "") << path;
+    EXPECT_EQ(target(testsupport::FileText(path)), "") << path;
   }
 }
 

@@ -5,7 +5,6 @@
 
 #include <dirent.h>
 
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -15,10 +14,12 @@
 #include "hostapi/cdm/Net.h"
 #include "hostapi/cdm/Port.h"
 #include "hostapi/cdm/Root.h"
+#include "support/FileText.h"
 #include "verilog/VerilogReader.h"
 
 namespace {
 
+using testsupport::FileText;
 using verilog::ParseThreads;
 
 // What a read left: its outcome, error and everything the designs hold
@@ -63,13 +64,6 @@ void ExpectSameRead(const std::string& text, const std::string& what) {
   const std::string one = ReadOutcome(text, ParseThreads::kOne);
   const std::string two = ReadOutcome(text, ParseThreads::kTwo);
   EXPECT_EQ(one, two) << what;
-}
-
-std::string FileText(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
 }
 
 // The plain netlists of a folder.
