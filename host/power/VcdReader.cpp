@@ -188,6 +188,12 @@ class VcdParser {
     if (width_text.empty() || *end != '\0' || width < 1 || width > 1 << 20)
       return Fail(line, "expected a width from 1 to 1048576, found '" + width_text + "'");
     std::vector<Tracked>& tracked = ids_[tokens[2]];  // every id is known, tracked or not
+    // Variables on one identifier share its values, so they share a width;
+    // a value could not be laid over two widths at once.
+    const auto [known, first] = widths_.emplace(tokens[2], width);
+    if (!first && known->second != width)
+      return Fail(line, "identifier '" + std::string(tokens[2]) + "' has width " +
+                            std::to_string(known->second) + ", and here " + width_text);
     if (tokens[0] == "real" || tokens[0] == "realtime" || tokens[0] == "event" ||
         tokens[0] == "parameter" || !InScope() || (!leaf_.empty() && leaf_.back()))
       return true;
@@ -215,7 +221,6 @@ class VcdParser {
     }
     std::string prefix;
     for (size_t i = Depth(); i < scopes_.size(); ++i) prefix += scopes_[i] + "/";
-    widths_[tokens[2]].push_back(width);
     // The scope's netlist is found once for all the bits: a scope the design
     // lacks leaves every bit missing, without a look-up of each (or a slot:
     // the value changes of the identifier have nothing to do there).
@@ -309,9 +314,9 @@ class VcdParser {
         return Fail(line, "expected a value of 0, 1, x and z, found '" + std::string(value) + "'");
     const std::vector<Tracked>& tracked = found->second;
     if (tracked.empty()) return true;
-    // Every variable on the identifier has the same width; the value is
-    // widened on the left with 0, or with x or z when it starts with one.
-    const size_t width = static_cast<size_t>(widths_[id].front());
+    // The value is widened on the left with 0, or with x or z when it
+    // starts with one.
+    const size_t width = static_cast<size_t>(widths_.at(id));
     const char fill = value[0] == '1' ? '0' : value[0];
     for (const Tracked& one : tracked) {
       const size_t k = one.position;
@@ -348,7 +353,7 @@ class VcdParser {
   };
   // Per identifier, its tracked bits only: a change costs what it touches.
   std::unordered_map<std::string_view, std::vector<Tracked>> ids_;
-  std::unordered_map<std::string_view, std::vector<long>> widths_;
+  std::unordered_map<std::string_view, long> widths_;
   // Bits of the variables in the design's scopes looked up, of every
   // identifier.
   static constexpr size_t kMaxLookedUp = size_t{1} << 26;

@@ -231,6 +231,8 @@ TEST_F(ActivityFileTest, VcdRefusalsNameFileAndLine) {
       {head + "#0\nb !\n", "t.vcd:7: a vector change without a value"},
       {"$scope module tb $end\n$var wire 1 ! b $end\n", "t.vcd:3: the dump ends before"},
       {"$scope module tb $end\n$var wire 0 ! b $end\n", "t.vcd:2: expected a width from 1"},
+      {"$scope module tb $end\n$var wire 2 ! b $end\n$var wire 84 ! c $end\n",
+       "t.vcd:3: identifier '!' has width 2, and here 84"},
       {"$timescale 1 parsec $end\n", "t.vcd:1: expected a timescale such as '1ps', found"},
       {"$upscope $end\n", "t.vcd:1: '$upscope' outside every scope"},
       {"$comment never closed\n", "t.vcd:1: '$comment' is not closed by '$end'"},
