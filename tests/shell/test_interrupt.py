@@ -13,8 +13,10 @@ import unittest
 import kelvoshell as ks
 
 
-def write_large_netlist(path, cells=380000):
-    """A chain of buffers: about 22 MB of Verilog."""
+def write_large_netlist(path, cells=800000):
+    """A chain of buffers: about 48 MB of Verilog, read in 2-3 s, so that
+    Ctrl-C lands well inside the read even on a loaded machine (progress
+    shows only after half a second)."""
     with open(path, "w") as netlist:
         netlist.write("module big (a, y);\n  input a;\n  output y;\n")
         netlist.write("".join("  wire w%d;\n" % i for i in range(cells)))
