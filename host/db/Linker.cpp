@@ -144,24 +144,32 @@ class Linker {
     // cells, so no per-cell record is kept.
     std::vector<std::vector<Port*>> stubs;  // ports of unresolved cells, in cell order
     uint32_t pins = static_cast<uint32_t>(design->Ports().size());
-    {
+    bool unresolved_cells = false;
+    for (uint32_t i = 0; i < cells; ++i) {
+      const Resolution& resolution = Resolve(netlist->Cells()[i].GetRefName());
+      if (resolution.kind == kUnresolvedRef)
+        unresolved_cells = true;
+      else
+        pins += static_cast<uint32_t>(resolution.ports.size());
+    }
+    // An unresolved cell's pins are made after its connections, so only
+    // then are the connections read twice.
+    if (unresolved_cells) {
       ModuleSource::Cursor cursor(source);
       uint32_t line = 0, conns = 0;
       ConnSource conn;
       for (uint32_t i = 0; i < cells && cursor.NextInstance(line, conns); ++i) {
         Cell& cell = netlist->Cells()[i];
-        const Resolution& resolution = Resolve(cell.GetRefName());
+        const bool unresolved = Resolve(cell.GetRefName()).kind == kUnresolvedRef;
         std::vector<Port*> ports;
         for (uint32_t c = 0; c < conns; ++c) {
           cursor.NextConnection(conn, c);
-          if (resolution.kind == kUnresolvedRef) StubPorts(netlist, conn, ports);
+          if (unresolved) StubPorts(netlist, conn, ports);
         }
-        if (resolution.kind == kUnresolvedRef) {
+        if (unresolved) {
           ++unresolved_[cell.GetRefName()];
           pins += static_cast<uint32_t>(ports.size());
           stubs.push_back(std::move(ports));
-        } else {
-          pins += static_cast<uint32_t>(resolution.ports.size());
         }
       }
     }

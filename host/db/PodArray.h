@@ -1,8 +1,10 @@
 // Growable arrays for the large, plain data of a netlist (names, connection
-// streams, index arrays). A large array grows in place through realloc
-// (which remaps the pages instead of copying them) and asks the kernel for
-// huge pages, so that a million-instance design costs few page faults and
-// TLB misses. Only for trivially copyable element types.
+// streams, index arrays). A large array lives in pages of its own and grows
+// by remapping them, never by copying: the heap's realloc copies whenever
+// the allocator has raised its threshold for such blocks, as it does after
+// the first large one is freed. Large arrays ask the kernel for huge pages,
+// so that a million-instance design costs few page faults and TLB misses.
+// Only for trivially copyable element types.
 #pragma once
 
 #include <cstddef>
@@ -17,13 +19,24 @@ namespace cdm {
 // Asks for huge pages over the whole 2 MiB pages inside [data, data+bytes).
 void AdviseHugePages(void* data, size_t bytes);
 
+// Arrays of this many bytes or more live in pages of their own.
+constexpr size_t kPagedBytes = size_t{4} << 20;
+// The bytes mapped for an array of `bytes`: whole huge pages.
+size_t PagedBytes(size_t bytes);
+// Fresh zeroed pages of `bytes` (a PagedBytes figure), with huge pages
+// asked for; the same pages grown to `bytes`, moved if need be; given back.
+// The first two throw std::bad_alloc when the memory cannot be had.
+void* MapPages(size_t bytes);
+void* RemapPages(void* data, size_t old_bytes, size_t bytes);
+void UnmapPages(void* data, size_t bytes);
+
 template <class T>
 class PodArray {
   static_assert(std::is_trivially_copyable<T>::value, "PodArray holds plain data only");
 
  public:
   PodArray() = default;
-  ~PodArray() { std::free(data_); }
+  ~PodArray() { Release(); }
   PodArray(const PodArray& other) { *this = other; }
   PodArray& operator=(const PodArray& other) {
     if (this != &other) {
@@ -81,7 +94,7 @@ class PodArray {
     if (count > capacity_) Reallocate(count);
   }
   void clear() {
-    std::free(data_);
+    Release();
     data_ = nullptr;
     size_ = capacity_ = 0;
   }
@@ -97,12 +110,42 @@ class PodArray {
     size_t next = capacity_ ? capacity_ * 2 : 16;
     Reallocate(next < needed ? needed : next);
   }
+  // Whether an array of `capacity` elements lives in pages of its own.
+  static bool Paged(size_t capacity) { return capacity >= kPagedBytes / sizeof(T); }
+  void Release() {
+    if (Paged(capacity_))
+      UnmapPages(data_, PagedBytes(capacity_ * sizeof(T)));
+    else
+      std::free(data_);
+  }
   void Reallocate(size_t count) {
-    void* grown = std::realloc(data_, count * sizeof(T));
-    if (!grown) throw std::bad_alloc();
+    const size_t kept = (size_ < count ? size_ : count) * sizeof(T);
+    if (Paged(count)) {
+      const size_t bytes = PagedBytes(count * sizeof(T));
+      void* pages;
+      if (Paged(capacity_)) {
+        pages = RemapPages(data_, PagedBytes(capacity_ * sizeof(T)), bytes);
+      } else {
+        pages = MapPages(bytes);
+        if (kept) std::memcpy(pages, data_, kept);
+        std::free(data_);
+      }
+      data_ = static_cast<T*>(pages);
+      capacity_ = bytes / sizeof(T);
+      return;
+    }
+    void* grown;
+    if (Paged(capacity_)) {
+      grown = std::malloc(count * sizeof(T));
+      if (!grown) throw std::bad_alloc();
+      if (kept) std::memcpy(grown, data_, kept);
+      UnmapPages(data_, PagedBytes(capacity_ * sizeof(T)));
+    } else {
+      grown = std::realloc(data_, count * sizeof(T));
+      if (!grown) throw std::bad_alloc();
+    }
     data_ = static_cast<T*>(grown);
     capacity_ = count;
-    AdviseHugePages(data_, count * sizeof(T));
   }
 
   T* data_ = nullptr;
