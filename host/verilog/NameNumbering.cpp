@@ -39,21 +39,18 @@ void NameNumbering::BeginModule() {
 NameNumbering::Slot& NameNumbering::SlotOf(std::string_view name, uint32_t hash) {
   for (size_t i = hash & mask_;; i = (i + 1) & mask_) {
     Slot& slot = slots_[i];
-    if (!slot.text) return slot;
-    if (slot.hash == hash && slot.length == name.size() &&
-        std::memcmp(slot.text, name.data(), name.size()) == 0)
-      return slot;
+    if (slot.Free() || (slot.hash == hash && slot.Holds(name))) return slot;
   }
 }
 
 uint32_t NameNumbering::Find(std::string_view name, uint32_t hash) {
   const Slot& slot = SlotOf(name, hash);
-  return slot.text ? slot.number : kNoSymbol;
+  return slot.Free() ? kNoSymbol : slot.number;
 }
 
 uint32_t NameNumbering::FindOrAdd(std::string_view name, uint32_t hash) {
   Slot* slot = &SlotOf(name, hash);
-  if (slot->text) return slot->number;
+  if (!slot->Free()) return slot->number;
   // Grown past three quarters full: linear probing stays short, and a
   // table of a million names takes half the memory that a table kept half
   // empty would (fresh pages are costly, and so is each rehash).
@@ -61,8 +58,10 @@ uint32_t NameNumbering::FindOrAdd(std::string_view name, uint32_t hash) {
     Grow();
     slot = &SlotOf(name, hash);
   }
-  // An empty name still needs a non-null text to mark its slot taken.
-  slot->text = name.data() ? name.data() : "";
+  if (name.size() > kInlineBytes)
+    slot->text = name.data();
+  else if (!name.empty())
+    std::memcpy(slot->bytes, name.data(), name.size());
   slot->length = static_cast<uint32_t>(name.size());
   slot->hash = hash;
   slot->number = count_;
@@ -79,9 +78,9 @@ void NameNumbering::Grow() {
   mask_ = old_count * 2 - 1;
   for (size_t k = 0; k < old_count; ++k) {
     const Slot& slot = old[k];
-    if (!slot.text) continue;
+    if (slot.Free()) continue;
     size_t i = slot.hash & mask_;
-    while (slots_[i].text) i = (i + 1) & mask_;
+    while (!slots_[i].Free()) i = (i + 1) & mask_;
     slots_[i] = slot;
   }
   table_ = std::move(grown);

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <type_traits>
 
@@ -38,13 +39,24 @@ class NameNumbering {
   }
 
  private:
-  // A name and its number. The name is a view into the source text: a
-  // look-up costs one cache miss for the slot and one for the text.
+  // A name and its number. A name of up to 8 bytes is kept in the slot, so
+  // that finding it costs one cache miss; a longer one is a view into the
+  // source text, one miss more. A hash of 0 marks a free slot (HashOf
+  // never gives it).
+  static constexpr uint32_t kInlineBytes = 8;
   struct Slot {
-    const char* text = nullptr;  // null: the slot is free
-    uint32_t length = 0;
-    uint32_t hash = 0;
-    uint32_t number = 0;
+    union {
+      const char* text;          // length > kInlineBytes
+      char bytes[kInlineBytes];  // length <= kInlineBytes
+    };
+    uint32_t length;
+    uint32_t hash;
+    uint32_t number;
+    bool Free() const { return hash == 0; }
+    bool Holds(std::string_view name) const {
+      const char* held = length > kInlineBytes ? text : bytes;
+      return length == name.size() && std::memcmp(held, name.data(), name.size()) == 0;
+    }
   };
   static_assert(std::is_trivially_copyable_v<Slot>, "slots live in raw pages; all zeros is free");
 
