@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "db/NameIndex.h"
@@ -71,19 +72,53 @@ TEST(NameNumbering, NamesAreNumberedInTheOrderTheyAreMet) {
   EXPECT_EQ(again.symbol, 0u);
 }
 
+// Short names are kept in the table, longer ones are views into the text:
+// both must be told apart by every byte, and found from other copies.
 TEST(NameNumbering, ManyNamesKeepTheirNumbers) {
   verilog::NameNumbering numbering;
-  std::vector<std::string> names;
-  for (int i = 0; i < 20000; ++i) names.push_back("n" + std::to_string(i));
+  std::vector<std::string> names = {"", "12345678", "123456789", "12345679", "1234567"};
+  for (int i = 0; i < 20000; ++i)
+    names.push_back(i % 2 ? "n" + std::to_string(i) : "a_long_prefix/" + std::to_string(i));
   verilog::DeclAst decl;
   decl.names.assign(names.begin(), names.end());
   numbering.Number(decl);
   for (uint32_t i = 0; i < names.size(); ++i) ASSERT_EQ(decl.symbols[i], i);
-  for (uint32_t i = 0; i < names.size(); i += 7) {
-    Expr expr = Name(names[i], Expr::kBitSelect);
+  const std::vector<std::string> copies = names;
+  for (uint32_t i = 0; i < copies.size(); i += i < 10 ? 1 : 7) {
+    Expr expr = Name(copies[i], Expr::kBitSelect);
     numbering.Number(expr);
-    ASSERT_EQ(expr.symbol, i) << names[i];
+    ASSERT_EQ(expr.symbol, i) << copies[i];
   }
+  Expr unknown = Name("a_long_prefix/20001", Expr::kBitSelect);
+  numbering.Number(unknown);
+  EXPECT_EQ(unknown.symbol, verilog::kNoSymbol);
+}
+
+// Two names of one length under one hash are two names: the first pair of
+// `prefix` and six digits that collide (a 32-bit hash gives one among some
+// 10^5 names).
+void ExpectCollidingNamesApart(const std::string& prefix) {
+  std::unordered_map<uint32_t, std::string> seen;
+  std::string first, second;
+  for (int i = 100000; first.empty() && i < 1000000; ++i) {
+    std::string name = prefix + std::to_string(i);
+    auto [known, added] = seen.emplace(verilog::NameNumbering::HashOf(name), name);
+    if (!added) {
+      first = known->second;
+      second = name;
+    }
+  }
+  ASSERT_FALSE(first.empty());
+  verilog::NameNumbering numbering;
+  verilog::DeclAst decl;
+  decl.names = {first, second, first};
+  numbering.Number(decl);
+  EXPECT_EQ(decl.symbols, (std::vector<uint32_t>{0, 1, 0})) << first << " " << second;
+}
+
+TEST(NameNumbering, NamesUnderOneHashStayApart) {
+  ExpectCollidingNamesApart("n");                   // kept in the slot
+  ExpectCollidingNamesApart("a_long_prefix/net_");  // views into the text
 }
 
 }  // namespace
