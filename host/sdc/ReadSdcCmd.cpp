@@ -138,6 +138,10 @@ class ReadSdcCmd : public CommonCmd {
         [&](const std::string& path, std::string& why) { return ReadOne(interp, path, echo, why); },
         error);
     if (!ok) {
+      // The trace a script shows for an error it does not catch begins
+      // with this message, which names the file and line, rather than
+      // with the bare message of the command that failed inside the file.
+      Tcl_ResetResult(interp);
       SetTclError("read_sdc: " + error);
       return 1;
     }

@@ -73,7 +73,12 @@ TEST_F(ReadSdcTest, AnErrorNamesFileAndLineStopsAndKeepsWhatCameBefore) {
   for (const Case& each : cases) {
     LoadDesign(std::string("rs_") + each.name);
     const std::string path = File(each.name, each.text);
-    EXPECT_EQ(Error("read_sdc " + path), "Error: read_sdc: " + path + ":" + each.error);
+    const std::string error = "Error: read_sdc: " + path + ":" + each.error;
+    EXPECT_EQ(Error("read_sdc " + path), error);
+    // A script that does not catch the error shows its trace: it begins
+    // with the same message, the file and line included.
+    const std::string trace = Tcl_GetVar(shell_, "errorInfo", TCL_GLOBAL_ONLY);
+    EXPECT_EQ(trace.substr(0, trace.find('\n')), error) << each.name;
     EXPECT_FLOAT_EQ(Load("o1"), each.o1) << each.name;
     EXPECT_FLOAT_EQ(Load("o2"), each.o2) << each.name;
   }
