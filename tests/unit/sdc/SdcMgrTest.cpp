@@ -36,12 +36,16 @@ class SdcMgrTest : public sdctest::SdcTest {
 };
 
 TEST_F(SdcMgrTest, WithoutADesignTheStoreIsEmptyAndAnswersNothing) {
+  // Another test of the binary may have left a design with a clock current.
+  cdm::Design* kept = Root()->GetCurrentDesign();
+  Root()->SetCurrentDesign(nullptr);
   sta::sdc::SdcMgr* sdc = sta::sdc::SdcMain::getOrCreateSdcMgr(nullptr);
   ASSERT_NE(sdc, nullptr);
   EXPECT_EQ(sdc, sta::sdc::SdcMain::getOrCreateSdcMgr(nullptr));
   EXPECT_FALSE(sdc->hasDrivingCell());
   EXPECT_EQ(sdc->getWireLoadModel(MinMax::max_), nullptr);
   EXPECT_TRUE(sdc->getClocks().empty());
+  Root()->SetCurrentDesign(kept);
 }
 
 TEST_F(SdcMgrTest, AnEmptyStoreAnswersTheUnsetResultOfEveryAccessor) {

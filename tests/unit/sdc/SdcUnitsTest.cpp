@@ -73,6 +73,8 @@ TEST(SdcUnitsTest, WithoutLibraryOrSetUnitsValuesAreNanosecondsPicofaradsKiloohm
 
 TEST(SdcUnitsTest, TheDefaultLibrarysUnitsAreTheDecimalsItsFloatsStandFor) {
   cdm::Root* root = cdm::DbManager::GetRoot();
+  // Reading a library may make it the default: the one before comes back.
+  DefaultLibrary before(root->GetDefaultLiberty());
   cdm::LibertyLib* asap7 = root->GetLibertyLib("asap7_small");
   std::string error;
   if (!asap7)

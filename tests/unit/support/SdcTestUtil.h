@@ -35,12 +35,14 @@ class SdcTest : public ::testing::Test {
  protected:
   static cdm::Root* Root() { return cdm::DbManager::GetRoot(); }
 
-  // Reads timer_small.lib once into the database's root.
+  // Reads timer_small.lib once into the database's root and makes it the
+  // default library (ns, pF, kohm), which another test may have changed.
   static void LoadLibrary() {
-    if (Root()->GetLibertyLib("timer_small")) return;
+    cdm::LibertyLib* lib = Root()->GetLibertyLib("timer_small");
     std::string error;
-    ASSERT_NE(liberty::ReadLibertyFile(Root(), DataPath("timer_small.lib"), error), nullptr)
-        << error;
+    if (!lib) lib = liberty::ReadLibertyFile(Root(), DataPath("timer_small.lib"), error);
+    ASSERT_NE(lib, nullptr) << error;
+    if (Root()->GetDefaultLiberty() != lib) Root()->SetDefaultLiberty(lib);
   }
 
   // Reads `text` and links `top`, which becomes the current design.
