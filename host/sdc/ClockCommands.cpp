@@ -269,7 +269,7 @@ class SetClockLatencyCmd : public SdcCommand {
     MinMaxFlags("latency");
     Flag("early", "Early source latency (as -min)");
     Flag("late", "Late source latency (as -max)");
-    Objects("clock", "Clocks the latency at pins applies to");
+    Objects("clock", "Accepted: the latency at a pin applies to every clock there");
     Objects("object_list", "Clocks, ports or pins", true);
   }
 

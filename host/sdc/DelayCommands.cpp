@@ -15,7 +15,7 @@ class PortDelayCmd : public SdcCommand {
     Number("delay_value", "Delay", true);
     Objects("clock", "The clock the delay is relative to");
     Flag("clock_fall", "Relative to the clock's falling edge");
-    Flag("level_sensitive", "The delay comes from a latch");
+    Flag("level_sensitive", "Accepted: the delay is kept as an edge-triggered one");
     EdgeFlags("delay");
     MinMaxFlags("delay");
     Flag("add_delay", "Keep the delays relative to other clock edges");

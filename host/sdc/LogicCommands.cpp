@@ -105,6 +105,7 @@ class NetworkCmd : public SdcCommand {
         record.ideal_no_propagate = Has("no_propagate");
       } else {
         record.dont_touch_network = true;
+        record.dont_touch_no_propagate = Has("no_propagate");
       }
     }
     store.NoteChange();

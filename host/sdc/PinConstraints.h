@@ -24,6 +24,7 @@ struct PinConstraints {
   bool ideal_source = false;                  // set_ideal_network
   bool ideal_no_propagate = false;            // set_ideal_network -no_propagate
   bool dont_touch_network = false;            // set_dont_touch_network
+  bool dont_touch_no_propagate = false;       // set_dont_touch_network -no_propagate
   bool propagated_clock = false;              // set_propagated_clock on the pin
   // set_clock_uncertainty on the pin: min is hold, max is setup.
   std::optional<float> clock_uncertainty[2];

@@ -483,7 +483,9 @@ void SdcWriter::WritePins() {
     if (record->ideal_source)
       out_ << "set_ideal_network" << (record->ideal_no_propagate ? " -no_propagate" : "") << object
            << "\n";
-    if (record->dont_touch_network) out_ << "set_dont_touch_network" << object << "\n";
+    if (record->dont_touch_network)
+      out_ << "set_dont_touch_network" << (record->dont_touch_no_propagate ? " -no_propagate" : "")
+           << object << "\n";
     if (record->propagated_clock) out_ << "set_propagated_clock" << object << "\n";
     WritePair(record->clock_uncertainty, "-hold", "-setup",
               [&](const std::string& flag, float value) {
