@@ -62,11 +62,58 @@ void ActivityPropagator::Run(std::vector<NetActivity>& nets) {
   Seed();
   Plan();
   passes_ = 0;
-  for (pass_ = 0; pass_ < kMaxPasses; ++pass_) {
+  // First from what the seeds reach, the registers' states not yet worked
+  // out; then each state from its next state as that left it, and again
+  // from the register outputs that moved. A net no pass reaches keeps the
+  // figures of a primary input.
+  NetActivity unset{0.0, 0.5, ActivityOrigin::kPropagated};
+  Apply(annotations_.Inputs(), unset);
+  unset.origin = ActivityOrigin::kPropagated;
+  for (State& state : states_) state.value = unset;
+  changed_at_.assign(nets.size(), -1);
+  for (const Node& node : nodes_) {
+    nets[node.net] = unset;
+    // A cell nothing is known of inside and an annotated net are seeds.
+    if (!node.function || override_of_[node.net] >= 0) {
+      nets[node.net] = Work(node);
+      changed_at_[node.net] = 0;
+    }
+  }
+  for (uint32_t id = 1; id < nets.size(); ++id)
+    if (fixed_[id]) changed_at_[id] = 0;
+  Settle();
+  std::fill(changed_at_.begin(), changed_at_.end(), -1);
+  Latch();
+  Settle();
+  nets_ = nullptr;
+}
+
+void ActivityPropagator::Settle() {
+  // Pass 1 works out what a seed (changed at 0) reaches, in order.
+  for (pass_ = 1; pass_ <= kMaxPasses; ++pass_) {
     ++passes_;
     if (!Pass()) break;
   }
-  nets_ = nullptr;
+}
+
+void ActivityPropagator::Latch() {
+  // In order, so that a register reading another register's output
+  // straight sees it latched; a next state reading its own state reads it
+  // as it was before.
+  std::vector<NetActivity>& nets = *nets_;
+  for (const Node& node : nodes_) {
+    if (!node.reads_state) continue;
+    for (uint32_t r = node.first; r < node.first + node.count; ++r) {
+      if (!(refs_[r] & kState)) continue;
+      State& state = states_[refs_[r] & kIndex];
+      if (state.latched) continue;
+      state.value = Evaluate(*state.data, state.data_first, state.data_count);
+      state.latched = true;
+    }
+    const NetActivity activity = Work(node);
+    if (Differs(activity, nets[node.net])) changed_at_[node.net] = 0;
+    nets[node.net] = activity;
+  }
 }
 
 double ActivityPropagator::Rate(const RateSetting& rate) const {
@@ -77,7 +124,6 @@ double ActivityPropagator::Rate(const RateSetting& rate) const {
 void ActivityPropagator::Apply(const ActivitySetting& setting, NetActivity& activity) const {
   if (setting.rate) activity.rate = Rate(*setting.rate);
   if (setting.probability) activity.probability = *setting.probability;
-  if (setting.rate) activity.summed = false;
   activity.origin = setting.origin;
 }
 
@@ -159,7 +205,6 @@ void ActivityPropagator::Plan() {
   refs_.clear();
   states_.clear();
   first_state_.clear();
-  changed_at_.assign(nets.size(), -1);
   for (uint32_t v : graph.LevelOrder()) {
     const sta::Vertex* vertex = graph.vertex(v);
     if (!vertex || !vertex->isDriver() || !vertex->pin() || !vertex->pin()->GetCell()) continue;
@@ -185,7 +230,7 @@ void ActivityPropagator::Plan() {
 
 void ActivityPropagator::Order() {
   // What each node reads: the nodes of its input nets, and through a
-  // register's state the nodes of its next state and clock.
+  // register's state the nodes of its next state.
   std::vector<uint32_t> node_of(nets_->size(), UINT32_MAX);
   for (uint32_t i = 0; i < nodes_.size(); ++i) node_of[nodes_[i].net] = i;
   std::vector<uint32_t> dep_first(nodes_.size() + 1, 0);
@@ -203,7 +248,6 @@ void ActivityPropagator::Order() {
       if (!(refs_[r] & kState)) continue;
       const State& state = states_[refs_[r] & kIndex];
       add(state.data_first, state.data_count);
-      add(state.clock_first, state.clock_count);
     }
   }
   dep_first[nodes_.size()] = static_cast<uint32_t>(deps.size());
@@ -271,14 +315,10 @@ uint32_t ActivityPropagator::StateIndex(const cdm::Cell& cell,
     for (size_t g = 0; g < groups.size(); ++g) {
       bool unused = false;
       const uint32_t data = AddRefs(groups[g]->data, cell, unused);
-      const uint32_t clock = AddRefs(groups[g]->clock, cell, unused);
       State& state = states_[first + g];
       state.data = &groups[g]->data;
-      state.clock = &groups[g]->clock;
       state.data_first = data;
       state.data_count = static_cast<uint32_t>(groups[g]->data.GetFuncPorts().size());
-      state.clock_first = clock;
-      state.clock_count = static_cast<uint32_t>(groups[g]->clock.GetFuncPorts().size());
     }
   }
   size_t g = 0;
@@ -286,30 +326,37 @@ uint32_t ActivityPropagator::StateIndex(const cdm::Cell& cell,
   return found->second + static_cast<uint32_t>(g);
 }
 
+NetActivity ActivityPropagator::Work(const Node& node) {
+  NetActivity activity;
+  if (!node.function) {
+    // A cell nothing is known of inside drives like a primary input.
+    activity = NetActivity{0.0, 0.5, ActivityOrigin::kDefault};
+    Apply(annotations_.Inputs(), activity);
+    activity.origin = ActivityOrigin::kDefault;
+  } else {
+    activity = Evaluate(*node.function, node.first, node.count);
+    const ActivitySetting& registers = annotations_.Registers();
+    if (node.reads_state && (registers.rate || registers.probability)) Apply(registers, activity);
+  }
+  if (override_of_[node.net] >= 0) Apply(overrides_[override_of_[node.net]], activity);
+  return activity;
+}
+
 bool ActivityPropagator::Pass() {
   std::vector<NetActivity>& nets = *nets_;
-  const ActivitySetting& registers = annotations_.Registers();
   bool changed = false;
   for (const Node& node : nodes_) {
-    // After the first pass only what an input of changed.
-    if (pass_ > 0 && !Dirty(node.first, node.count)) continue;
-    NetActivity activity;
-    if (!node.function) {
-      // A cell nothing is known of inside drives like a primary input.
-      activity = NetActivity{0.0, 0.5, ActivityOrigin::kDefault};
-      Apply(annotations_.Inputs(), activity);
-      activity.origin = ActivityOrigin::kDefault;
-    } else {
-      activity = Evaluate(*node.function, node.first, node.count, kIndex);
-      if (node.reads_state && (registers.rate || registers.probability)) Apply(registers, activity);
-    }
-    if (override_of_[node.net] >= 0) Apply(overrides_[override_of_[node.net]], activity);
-    if (pass_ >= kDampFrom) {
+    // Only what an input of changed (in this pass, or the one before).
+    if (!Dirty(node.first, node.count)) continue;
+    NetActivity activity = Work(node);
+    if (pass_ > kDampFrom) {
       // Still moving: a loop that swings (an odd ring) settles halfway.
       activity.rate = 0.5 * (activity.rate + nets[node.net].rate);
       activity.probability = 0.5 * (activity.probability + nets[node.net].probability);
     }
-    if (Differs(activity, nets[node.net])) {
+    // Reached for the first time, it passes on even figures that happen
+    // to be those it had.
+    if (pass_ == 1 || Differs(activity, nets[node.net])) {
       changed = true;
       changed_at_[node.net] = pass_;
     }
@@ -318,88 +365,29 @@ bool ActivityPropagator::Pass() {
   return changed;
 }
 
-bool ActivityPropagator::Dirty(uint32_t first, uint32_t count) {
-  for (uint32_t i = first; i < first + count; ++i) {
-    const Ref ref = refs_[i];
-    if (ref & kState) {
-      const uint32_t index = ref & kIndex;
-      Refresh(index);
-      if (states_[index].changed_at >= pass_ - 1) return true;
-    } else if (changed_at_[ref] >= pass_ - 1) {
-      return true;
-    }
-  }
+bool ActivityPropagator::Dirty(uint32_t first, uint32_t count) const {
+  // States are held while the passes run.
+  for (uint32_t i = first; i < first + count; ++i)
+    if (!(refs_[i] & kState) && changed_at_[refs_[i]] >= pass_ - 1) return true;
   return false;
 }
 
-NetActivity ActivityPropagator::Input(Ref ref, uint32_t self) {
+NetActivity ActivityPropagator::Input(Ref ref) const {
   if (!(ref & kState)) return (*nets_)[ref];
-  const uint32_t index = ref & kIndex;
-  NetActivity input = states_[index].value;
-  // The state holding itself makes no transition of its own.
-  if (index == self) input.rate = 0.0;
+  NetActivity input = states_[ref & kIndex].value;
   if (ref & kComplement) input.probability = 1.0 - input.probability;
   return input;
 }
 
 NetActivity ActivityPropagator::Evaluate(const cdm::LibBoolFuncExpr& function, uint32_t first,
-                                         uint32_t count, uint32_t self) {
-  // States first: working one out evaluates other functions, which use
-  // the scratch arrays too.
-  for (uint32_t i = first; i < first + count; ++i)
-    if ((refs_[i] & kState) && (refs_[i] & kIndex) != self) Refresh(refs_[i] & kIndex);
-  probability_.resize(count);
-  density_.resize(count);
-  NetActivity out{0.0, 0.5, ActivityOrigin::kPropagated};
-  int switching = 0;
+                                         uint32_t count) {
+  inputs_.resize(count);
   for (uint32_t i = 0; i < count; ++i) {
-    const NetActivity input = Input(refs_[first + i], self);
-    probability_[i] = input.probability;
-    density_[i] = input.rate;
-    if (input.rate > 0.0) {
-      ++switching;
-      out.summed = out.summed || input.summed;
-    }
+    const NetActivity input = Input(refs_[first + i]);
+    inputs_[i] = Activity{input.probability, input.rate};
   }
-  out.summed = out.summed || switching > 1;
-  FunctionActivity(Table(function), probability_, density_, out.probability, out.rate);
-  return out;
-}
-
-void ActivityPropagator::Refresh(uint32_t index) {
-  State& state = states_[index];
-  if (state.pass == pass_ || state.busy) return;
-  state.pass = pass_;  // before the inputs: a next state may read the state
-  const bool dirty = pass_ == 0 || Dirty(state.data_first, state.data_count) ||
-                     Dirty(state.clock_first, state.clock_count);
-  if (!dirty) return;
-  state.busy = true;
-  const NetActivity data = Evaluate(*state.data, state.data_first, state.data_count, index);
-  const NetActivity clock = Evaluate(*state.clock, state.clock_first, state.clock_count, index);
-  state.busy = false;
-  // One active edge a clock period: the state changes at most that often,
-  // and with data independent from cycle to cycle 2p(1-p) of the times.
-  // Data that moves at most once a period (a register's output, an input,
-  // through cells with one switching input) the state follows up to that
-  // bound. A rate summed over several inputs counts transitions that
-  // cancel within a period: those are taken as falling at random, the
-  // state changing when an odd number fell since the last edge, which for
-  // a two-valued signal held with probability p is
-  // 2p(1-p) (1 - exp(-rate / (2p(1-p) edges))) of the edges.
-  const double edges = clock.rate / 2.0;
-  const double p = data.probability;
-  const double most = 2.0 * p * (1.0 - p) * edges;
-  double rate = std::min(data.rate, most);
-  if (data.summed && most > 0.0) rate = -most * std::expm1(-data.rate / most);
-  const NetActivity value{rate, p, ActivityOrigin::kPropagated};
-  if (Differs(value, state.value)) state.changed_at = pass_;
-  state.value = value;
-}
-
-const std::vector<bool>& ActivityPropagator::Table(const cdm::LibBoolFuncExpr& function) {
-  auto found = tables_.find(&function);
-  if (found == tables_.end()) found = tables_.emplace(&function, function.TruthTable()).first;
-  return found->second;
+  const Activity out = FunctionActivity(function, inputs_);
+  return NetActivity{out.density, out.probability, ActivityOrigin::kPropagated};
 }
 
 }  // namespace power

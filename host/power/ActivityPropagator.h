@@ -1,9 +1,10 @@
 // Works out the switching activity of every flat net of the timed design:
 // constants, annotations, clocks and primary inputs first, then through
-// the cells in level order (combinational cells by their functions,
-// registers by their next state and clock). Loops, through registers or
-// cut combinational ones, are gone round again until the figures settle
-// or a bound is reached.
+// the cells by their functions, as the established timing engines do:
+// first with every register's state taken as a primary input, then with
+// each state taken from its next state as that left it, and through the
+// logic again. Cut combinational loops are gone round until the figures
+// settle or a bound is reached.
 #pragma once
 
 #include <cstdint>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "power/ActivityAnnotations.h"
+#include "power/FunctionActivity.h"
 #include "power/NetActivity.h"
 
 namespace cdm {
@@ -33,10 +35,11 @@ class ActivityPropagator {
 
   // Fills `nets`, indexed by flat net id (index 0 unused).
   void Run(std::vector<NetActivity>& nets);
-  // Passes over the design the last Run took.
+  // Passes over the design the last Run took: the logic is gone over
+  // twice, before and after the registers take their data.
   int Passes() const { return passes_; }
 
-  // The most passes a Run makes.
+  // The most passes each time the logic is gone over.
   static constexpr int kMaxPasses = 50;
   // From this pass on, a figure still moving goes halfway to its new value.
   static constexpr int kDampFrom = 8;
@@ -61,12 +64,9 @@ class ActivityPropagator {
   // port (the second is the complement).
   struct State {
     const cdm::LibBoolFuncExpr* data = nullptr;
-    const cdm::LibBoolFuncExpr* clock = nullptr;
-    uint32_t data_first = 0, data_count = 0, clock_first = 0, clock_count = 0;
+    uint32_t data_first = 0, data_count = 0;
     NetActivity value{0.0, 0.5, ActivityOrigin::kPropagated};
-    int pass = -1;        // the pass it was last looked at in
-    int changed_at = -1;  // the pass it last changed in
-    bool busy = false;    // being worked out
+    bool latched = false;  // taken from its next state
   };
 
   void Seed();
@@ -74,19 +74,23 @@ class ActivityPropagator {
   // Puts the nodes in an order where each comes after what it reads,
   // registers included, loops cut.
   void Order();
+  // Passes over the nodes until nothing moves, the states held.
+  void Settle();
+  // Takes each state from its next state once, in order, and works out
+  // the register outputs that read it.
+  void Latch();
   // Adds the refs of `function`'s ports on `cell`, one a port in order;
   // returns the first. Sets `reads_state` when one is a state.
   uint32_t AddRefs(const cdm::LibBoolFuncExpr& function, const cdm::Cell& cell, bool& reads_state);
   uint32_t StateIndex(const cdm::Cell& cell, const cdm::LibSequential* sequential);
   bool Pass();
-  bool Dirty(uint32_t first, uint32_t count);
-  NetActivity Evaluate(const cdm::LibBoolFuncExpr& function, uint32_t first, uint32_t count,
-                       uint32_t self);
-  NetActivity Input(Ref ref, uint32_t self);
-  void Refresh(uint32_t index);
+  bool Dirty(uint32_t first, uint32_t count) const;
+  NetActivity Evaluate(const cdm::LibBoolFuncExpr& function, uint32_t first, uint32_t count);
+  NetActivity Input(Ref ref) const;
+  // What a node's net gets: its function's figures, annotations applied.
+  NetActivity Work(const Node& node);
   double Rate(const RateSetting& rate) const;
   void Apply(const ActivitySetting& setting, NetActivity& activity) const;
-  const std::vector<bool>& Table(const cdm::LibBoolFuncExpr& function);
 
   const sta::Timer& timer_;
   const ActivityAnnotations& annotations_;
@@ -102,8 +106,7 @@ class ActivityPropagator {
   double fastest_period_ = 0.0;                                 // seconds; 0 without clocks
   int pass_ = 0;
   int passes_ = 0;
-  std::unordered_map<const cdm::LibBoolFuncExpr*, std::vector<bool>> tables_;
-  std::vector<double> probability_, density_;  // scratch
+  std::vector<Activity> inputs_;  // scratch
 };
 
 }  // namespace power

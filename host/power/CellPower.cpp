@@ -7,6 +7,7 @@
 #include "dcalc/TableLookup.h"
 #include "graph/TimingGraph.h"
 #include "hostapi/cdm/Cell.h"
+#include "hostapi/cdm/LibBoolFuncExpr.h"
 #include "hostapi/cdm/LibCell.h"
 #include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Pin.h"
@@ -52,16 +53,27 @@ struct CellPower::Group {
   bool on_output = false;
   Condition when;
   const cdm::LibPowerModel* model[2] = {nullptr, nullptr};  // rise, fall
-  // For each edge of the table (rise, fall): the edge of the indexing pin
-  // whose slew is read, 2 for the mean of both.
-  int slew_edge[2] = {2, 2};
+};
+
+// How often an output's arc from one related pin is charged, as the
+// established timing engines charge it (docs/power.md): a pin that is an
+// operand of the function's last operator (through inversions), at its own
+// rate times the chance that the other operand lets it through; a pin the
+// function does not read (a register's clock), at the output's rate; any
+// other pin of the function, at half the output's rate.
+struct CellPower::Arc {
+  enum Kind { kOperand, kWhole, kHalf } kind = kWhole;
+  int input = -1;    // kOperand: the pin's input in the function
+  int sibling = -1;  // kOperand: the other operand's node, -1 for none
+  cdm::LibBoolFuncExpr::Op op = cdm::LibBoolFuncExpr::Op::kAnd;
 };
 
 struct CellPower::Output {
   int slot = -1;
   Condition function;
-  std::vector<int> related;         // distinct related slots of its groups
-  std::vector<int> function_input;  // per related: its input in `function`, or -1
+  const cdm::LibBoolFuncExpr* expression = nullptr;
+  std::vector<int> related;  // distinct related slots of its groups
+  std::vector<Arc> arcs;     // per related
   double vdd = 0.0;
 };
 
@@ -95,36 +107,42 @@ double SupplyOf(const cdm::LibCell* lib_cell, const cdm::LibPort* port) {
   return conditions ? conditions->voltage : 0.0;
 }
 
-// Which edge of `from` makes each edge of `to`, by the timing arc between
-// them: the same (positive unate), the other (negative unate), the clock's
-// active edge (a register's launch), else the mean of both.
-void SlewEdges(const cdm::LibCell* lib_cell, const cdm::LibPort* from, const cdm::LibPort* to,
-               int edge[2]) {
-  edge[0] = edge[1] = 2;
-  for (const cdm::LibTimingArcSet* arc : lib_cell->GetTimingArcSets()) {
-    if (arc->GetFromPort() != from || arc->GetToPort() != to) continue;
-    switch (arc->GetTimingType()) {
-      case cdm::TimingType::kRisingEdge:
-        edge[0] = edge[1] = 0;
-        return;
-      case cdm::TimingType::kFallingEdge:
-        edge[0] = edge[1] = 1;
-        return;
-      default:
-        break;
-    }
-    if (arc->GetTimingSense() == cdm::TimingSense::kPositiveUnate) {
-      edge[0] = 0;
-      edge[1] = 1;
-    } else if (arc->GetTimingSense() == cdm::TimingSense::kNegativeUnate) {
-      edge[0] = 1;
-      edge[1] = 0;
-    }
-    return;
-  }
+// The port an operand stands for through inversions, or null.
+const cdm::LibPort* Literal(const cdm::LibBoolFuncExpr& function, int index) {
+  using Op = cdm::LibBoolFuncExpr::Op;
+  while (index >= 0 && function.Nodes()[index].op == Op::kNot) index = function.Nodes()[index].left;
+  return index >= 0 && function.Nodes()[index].op == Op::kPort ? function.Nodes()[index].port
+                                                               : nullptr;
 }
 
 }  // namespace
+
+CellPower::Arc CellPower::ArcOf(const cdm::LibBoolFuncExpr* function, const cdm::LibPort* port) {
+  using Op = cdm::LibBoolFuncExpr::Op;
+  Arc arc;
+  if (!function || function->IsEmpty()) return arc;
+  const auto& ports = function->GetFuncPorts();
+  auto found = std::find(ports.begin(), ports.end(), port);
+  if (found == ports.end()) return arc;
+  arc.kind = Arc::kHalf;
+  arc.input = static_cast<int>(found - ports.begin());
+  const int root = function->Root();
+  if (Literal(*function, root) == port) {
+    arc.kind = Arc::kOperand;
+    return arc;
+  }
+  const cdm::LibBoolFuncExpr::Node& top = function->Nodes()[root];
+  if (top.op != Op::kAnd && top.op != Op::kOr && top.op != Op::kXor) return arc;
+  for (int side = 0; side < 2; ++side) {
+    const int operand = side ? top.right : top.left;
+    if (Literal(*function, operand) != port) continue;
+    arc.kind = Arc::kOperand;
+    arc.sibling = side ? top.left : top.right;
+    arc.op = top.op;
+    return arc;
+  }
+  return arc;
+}
 
 CellPower::CellPower(const sta::Timer& timer, const cdm::LibertyLib* reference, ActivityOf activity)
     : timer_(timer), reference_(reference), activity_(std::move(activity)) {}
@@ -160,12 +178,6 @@ std::unique_ptr<CellPower::Plan> CellPower::MakePlan(const cdm::LibCell* lib_cel
         group.when.Set(attr->GetWhen(), ports);
         group.model[0] = attr->GetLibPowerModel(cdm::RiseFall::rise_);
         group.model[1] = attr->GetLibPowerModel(cdm::RiseFall::fall_);
-        if (!group.on_output) {
-          group.slew_edge[0] = 0;  // an input's table: its own edge
-          group.slew_edge[1] = 1;
-        } else if (r >= 0) {
-          SlewEdges(lib_cell, ports[r], port, group.slew_edge);
-        }
         auto family = families.emplace(std::make_pair(group.owner, r), plan->families);
         if (family.second) ++plan->families;
         group.family = family.first->second;
@@ -180,18 +192,14 @@ std::unique_ptr<CellPower::Plan> CellPower::MakePlan(const cdm::LibCell* lib_cel
     Output output;
     output.slot = static_cast<int>(slot);
     output.function.Set(port->GetFunction(), ports);
+    output.expression = port->GetFunction();
     for (const Group& group : plan->groups) {
       if (group.owner != output.slot || !group.on_output || group.related < 0) continue;
       if (std::find(output.related.begin(), output.related.end(), group.related) !=
           output.related.end())
         continue;
       output.related.push_back(group.related);
-      auto input =
-          std::find(output.function.slots.begin(), output.function.slots.end(), group.related);
-      output.function_input.push_back(
-          input == output.function.slots.end()
-              ? -1
-              : static_cast<int>(input - output.function.slots.begin()));
+      output.arcs.push_back(ArcOf(output.expression, ports[group.related]));
     }
     output.vdd = SupplyOf(lib_cell, port);
     plan->outputs.push_back(std::move(output));
@@ -249,7 +257,6 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
     // An inout pin reads its loading half.
     if (pin->GetDirection() == cdm::kDirInout) ++vertex;
     if (!graph->HasVertex(vertex)) return 0.0f;
-    if (edge == 2) return 0.5f * (graph->Slew(vertex, 0, 1) + graph->Slew(vertex, 1, 1));
     return graph->Slew(vertex, edge, 1);
   };
   auto load = [&](int slot, int edge) -> float {
@@ -273,45 +280,56 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
     if (plan.groups[g].when.always)
       weight[g] = std::max(0.0, 1.0 - family_sum[plan.groups[g].family]);
 
-  // Each output's rate shared among its related inputs by how often each
-  // one decides the output: its rate times the probability that its
-  // Boolean difference is 1 (the rate alone where the output has no
-  // function of it).
-  std::vector<double> share(slots, 0.0);  // per related slot, for the output in hand
+  // How often each output's arc from each related pin is charged.
+  std::vector<double> arc_rate(slots, 0.0);  // per related slot, for the output in hand
+  std::vector<Activity>& inputs = inputs_;
   double internal = 0.0;
   for (const Output& output : plan.outputs) {
-    double total = 0.0;
-    if (!output.function.always && !output.function.table.empty())
-      output.function.Inputs(acts_, one);
-    for (size_t k = 0; k < output.related.size(); ++k) {
-      const int r = output.related[k];
-      double density = acts_[r].rate;
-      if (output.function_input[k] >= 0)
-        density *= ProbabilityDecides(output.function.table, one,
-                                      static_cast<size_t>(output.function_input[k]));
-      share[r] = density;
-      total += density;
+    const double out_rate = acts_[output.slot].rate;
+    if (output.expression && !output.function.always) {
+      inputs.clear();
+      for (int slot : output.function.slots)
+        inputs.push_back(slot >= 0 ? Activity{acts_[slot].probability, acts_[slot].rate}
+                                   : Activity{0.5, 0.0});
     }
-    for (int r : output.related)
-      share[r] = total > 0.0 ? share[r] / total : 1.0 / static_cast<double>(output.related.size());
+    for (size_t k = 0; k < output.related.size(); ++k) {
+      const Arc& arc = output.arcs[k];
+      double rate = out_rate;
+      if (arc.kind == Arc::kHalf) {
+        rate = 0.5 * out_rate;
+      } else if (arc.kind == Arc::kOperand) {
+        // Through the other operand: always (XOR, or none), while it is 1
+        // (AND) or while it is 0 (OR).
+        double through = 1.0;
+        if (arc.sibling >= 0 && arc.op != cdm::LibBoolFuncExpr::Op::kXor) {
+          const double p = FunctionActivity(*output.expression, inputs, arc.sibling).probability;
+          through = arc.op == cdm::LibBoolFuncExpr::Op::kAnd ? p : 1.0 - p;
+        }
+        rate = inputs[arc.input].density * through;
+      }
+      arc_rate[output.related[k]] = rate;
+    }
 
-    // A group's rise and fall energies are each charged at the whole
-    // toggle rate (their sum per transition), as the established timing
-    // engines read the tables; see docs/power.md.
+    // A group's rise and fall energies are each charged at the arc's whole
+    // rate (their sum per transition), each table read at the related
+    // pin's slew of its own edge and at the larger of the output's two
+    // loads, as the established timing engines read them; see
+    // docs/power.md.
     for (size_t g = 0; g < plan.groups.size(); ++g) {
       const Group& group = plan.groups[g];
       if (group.owner != output.slot || !group.on_output || weight[g] == 0.0) continue;
+      const float output_load = std::max(load(output.slot, 0), load(output.slot, 1));
       double energy = 0.0;
       for (int edge = 0; edge < 2; ++edge) {
         if (!group.model[edge] || !group.model[edge]->GetTable()) continue;
         sta::TableArgs args;
-        args.in_slew = plan.scale.ToLibrary(slew(group.related, group.slew_edge[edge]));
+        args.in_slew = plan.scale.ToLibrary(slew(group.related, edge));
         args.related_slew = args.in_slew;
-        args.load = load(output.slot, edge);
+        args.load = output_load;
         energy += sta::TableValue(*group.model[edge]->GetTable(), args);
       }
-      const double part = group.related >= 0 ? share[group.related] : 1.0;
-      internal += acts_[output.slot].rate * part * weight[g] * energy;
+      const double rate = group.related >= 0 ? arc_rate[group.related] : out_rate;
+      internal += rate * weight[g] * energy;
     }
 
     const cdm::Pin* driver = pins_[output.slot];
@@ -328,7 +346,8 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
     if (nets) nets->push_back(net);
   }
 
-  // Groups of inputs: the pin's own rate and slew.
+  // Groups of inputs: the pin's own slew, at half its rate (a clock pin at
+  // its whole rate), as the established engines charge them.
   for (size_t g = 0; g < plan.groups.size(); ++g) {
     const Group& group = plan.groups[g];
     if (group.on_output || weight[g] == 0.0) continue;
@@ -336,11 +355,12 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
     for (int edge = 0; edge < 2; ++edge) {
       if (!group.model[edge] || !group.model[edge]->GetTable()) continue;
       sta::TableArgs args;
-      args.in_slew = plan.scale.ToLibrary(slew(group.owner, group.slew_edge[edge]));
+      args.in_slew = plan.scale.ToLibrary(slew(group.owner, edge));
       args.related_slew = args.in_slew;
       energy += sta::TableValue(*group.model[edge]->GetTable(), args);
     }
-    internal += acts_[group.owner].rate * weight[g] * energy;
+    const double rate = acts_[group.owner].rate * (plan.ports[group.owner]->IsClock() ? 1.0 : 0.5);
+    internal += rate * weight[g] * energy;
   }
   result.internal = static_cast<float>(internal);
 

@@ -10,6 +10,7 @@
 
 #include "dcalc/SlewScale.h"
 #include "hostapi/cdm/PowerRecords.h"
+#include "power/FunctionActivity.h"
 
 namespace cdm {
 class Cell;
@@ -57,10 +58,12 @@ class CellPower {
   cdm::PowerResult Compute(const cdm::Cell* cell, std::vector<DrivenNet>* nets);
 
  private:
+  struct Arc;
   struct Condition;
   struct Group;
   struct Output;
   struct Plan;
+  static Arc ArcOf(const cdm::LibBoolFuncExpr* function, const cdm::LibPort* port);
   const Plan& PlanOf(const cdm::LibCell* lib_cell, const cdm::Cell* cell);
   static std::unique_ptr<Plan> MakePlan(const cdm::LibCell* lib_cell, const cdm::Cell* cell,
                                         const cdm::LibertyLib* reference);
@@ -73,6 +76,7 @@ class CellPower {
   std::vector<const cdm::Pin*> pins_;
   std::vector<PinActivity> acts_;
   std::vector<double> scratch_;
+  std::vector<Activity> inputs_;
 };
 
 }  // namespace power

@@ -2,43 +2,53 @@
 
 #include <algorithm>
 
+#include "hostapi/cdm/LibBoolFuncExpr.h"
+
 namespace power {
 namespace {
 
-// The weight of `row` over every input but `skip` (-1 for none).
-double RowWeight(size_t row, const std::vector<double>& probability, int skip) {
-  double weight = 1.0;
-  for (size_t i = 0; i < probability.size(); ++i) {
-    if (static_cast<int>(i) == skip) continue;
-    weight *= ((row >> i) & 1) ? probability[i] : 1.0 - probability[i];
+using Op = cdm::LibBoolFuncExpr::Op;
+
+Activity Of(const cdm::LibBoolFuncExpr& function, const std::vector<Activity>& inputs, int index) {
+  const cdm::LibBoolFuncExpr::Node& node = function.Nodes()[index];
+  switch (node.op) {
+    case Op::kConst0:
+      return {0.0, 0.0};
+    case Op::kConst1:
+      return {1.0, 0.0};
+    case Op::kPort: {
+      const auto& ports = function.GetFuncPorts();
+      const size_t i =
+          static_cast<size_t>(std::find(ports.begin(), ports.end(), node.port) - ports.begin());
+      return i < inputs.size() ? inputs[i] : Activity{0.5, 0.0};
+    }
+    case Op::kNot: {
+      const Activity a = Of(function, inputs, node.left);
+      return {1.0 - a.probability, a.density};
+    }
+    default:
+      break;
   }
-  return weight;
+  const Activity a = Of(function, inputs, node.left);
+  const Activity b = Of(function, inputs, node.right);
+  const double pa = a.probability, pb = b.probability;
+  switch (node.op) {
+    case Op::kAnd:
+      return {pa * pb, a.density * pb + b.density * pa};
+    case Op::kOr:
+      return {pa + pb - pa * pb, a.density * (1.0 - pb) + b.density * (1.0 - pa)};
+    default:  // kXor
+      return {pa * (1.0 - pb) + pb * (1.0 - pa), a.density + b.density};
+  }
 }
 
 }  // namespace
 
-void FunctionActivity(const std::vector<bool>& table, const std::vector<double>& probability,
-                      const std::vector<double>& density, double& out_probability,
-                      double& out_density) {
-  const size_t inputs = probability.size();
-  if (inputs > kMaxExactInputs || table.size() != (size_t{1} << inputs)) {
-    out_probability = 0.5;
-    out_density = density.empty() ? 0.0 : *std::max_element(density.begin(), density.end());
-    return;
-  }
-  out_probability = 0.0;
-  for (size_t row = 0; row < table.size(); ++row)
-    if (table[row]) out_probability += RowWeight(row, probability, -1);
-  out_density = 0.0;
-  for (size_t i = 0; i < inputs; ++i) {
-    if (density[i] == 0.0) continue;
-    const size_t bit = size_t{1} << i;
-    double decides = 0.0;
-    for (size_t row = 0; row < table.size(); ++row)
-      if (!(row & bit) && table[row] != table[row | bit])
-        decides += RowWeight(row, probability, static_cast<int>(i));
-    out_density += decides * density[i];
-  }
+Activity FunctionActivity(const cdm::LibBoolFuncExpr& function, const std::vector<Activity>& inputs,
+                          int node) {
+  if (node < 0) node = function.Root();
+  if (node < 0) return {0.0, 0.0};
+  return Of(function, inputs, node);
 }
 
 }  // namespace power

@@ -1,22 +1,30 @@
 // The activity at the output of a Boolean function whose inputs switch
-// independently of each other: the probability that it is 1, and its
-// transition density, the sum over the inputs of the chance that the input
-// decides the output times the input's density.
+// independently of each other, worked out over the function as the
+// library writes it: each operator takes its operands as independent, so
+// that an input written twice ("(A&!B) | (!A&B)") counts in each place.
+// That is how the established timing engines propagate activity, and
+// what our figures are checked against (docs/power.md).
 #pragma once
 
-#include <cstddef>
 #include <vector>
+
+namespace cdm {
+class LibBoolFuncExpr;
+}
 
 namespace power {
 
-// The most inputs a function is worked out over exactly; past it the
-// output is taken as 1 half the time and as busy as its busiest input.
-constexpr size_t kMaxExactInputs = 12;
+struct Activity {
+  double probability = 0.0;  // that the value is 1
+  double density = 0.0;      // transitions per second
+};
 
-// `table[row]` is the function's value where bit i of `row` is input i;
-// `probability[i]` and `density[i]` are input i's.
-void FunctionActivity(const std::vector<bool>& table, const std::vector<double>& probability,
-                      const std::vector<double>& density, double& out_probability,
-                      double& out_density);
+// The activity of node `node` of `function` (its root when -1), where
+// `inputs[i]` is the activity of the function's i-th port (GetFuncPorts
+// order). An operator over operands a, b: NOT (1 - pa, da); AND (pa pb,
+// da pb + db pa); OR (pa + pb - pa pb, da (1 - pb) + db (1 - pa)); XOR
+// (pa (1 - pb) + pb (1 - pa), da + db).
+Activity FunctionActivity(const cdm::LibBoolFuncExpr& function, const std::vector<Activity>& inputs,
+                          int node = -1);
 
 }  // namespace power

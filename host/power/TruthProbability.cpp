@@ -22,15 +22,4 @@ double ProbabilityOfOne(const std::vector<bool>& table, const std::vector<double
   return sum;
 }
 
-double ProbabilityDecides(const std::vector<bool>& table, const std::vector<double>& one,
-                          size_t input) {
-  const size_t bit = size_t{1} << input;
-  double sum = 0.0;
-  for (size_t row = 0; row < table.size(); ++row) {
-    if ((row & bit) || (row | bit) >= table.size()) continue;
-    if (table[row] != table[row | bit]) sum += RowProbability(row, one, input);
-  }
-  return sum;
-}
-
 }  // namespace power

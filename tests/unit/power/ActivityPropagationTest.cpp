@@ -1,11 +1,11 @@
 // Switching activity worked out through cells, checked by hand over
-// tests/data/activity_small.lib. Inputs switch independently: an AND of
-// inputs with probabilities pa, pb and densities da, db is 1 with pa*pb
-// and switches pb*da + pa*db times a second; a register samples its next
-// state once a clock period: data that moves at most once a period it
-// follows up to 2p(1-p) of the edges; data whose rate sums several
-// switching inputs changes it 2p(1-p) (1 - exp(-D / (2p(1-p) edges))) of
-// the time.
+// tests/data/activity_small.lib. Functions are worked out as written,
+// operands taken as independent: an AND of operands with probabilities
+// pa, pb and densities da, db is 1 with pa*pb and switches pb*da + pa*db
+// times a second; an OR is 1 with pa + pb - pa*pb and switches
+// (1-pb)*da + (1-pa)*db; an XOR operator switches da + db. A register's
+// state takes its next state's figures once, after the logic was worked
+// out with every state at the primary inputs' default.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -97,28 +97,35 @@ endmodule)",
   EXPECT_RATE(Net("n_xor").rate, 1.15e8);
   EXPECT_NEAR(Net("n_inv").probability, 0.34, 1e-9);
   EXPECT_RATE(Net("n_inv").rate, 1.15e8);
-  // The register: at most 2 * 0.34 * 0.66 of the 1e8 rising edges a
-  // second, 4.488e7; the data's 1.15e8 sums two switching XOR inputs:
-  // 4.488e7 (1 - exp(-1.15e8 / 4.488e7)).
+  // The register takes its data's figures, whatever its clock.
   EXPECT_NEAR(Net("q").probability, 0.34, 1e-9);
-  EXPECT_RATE(Net("q").rate, 4.141884e7);
+  EXPECT_RATE(Net("q").rate, 1.15e8);
   EXPECT_NEAR(Net("qn").probability, 0.66, 1e-9);
-  EXPECT_RATE(Net("qn").rate, 4.141884e7);
+  EXPECT_RATE(Net("qn").rate, 1.15e8);
+}
 
-  // Slow data: the XOR's inputs both follow a (taken as independent, so
-  // 1 half the time and 2e6 transitions a second, summed over two inputs):
-  // 5e7 (1 - exp(-2e6 / 5e7)), a little under 2e6.
-  Annotate("a", 1e6, 0.5);
-  Annotate("b", 0.0, 1.0);
-  Annotate("c", 0.0, 0.0);
-  EXPECT_RATE(Net("n_xor").rate, 2e6);
-  EXPECT_RATE(Net("q").rate, 1.960528e6);
-  EXPECT_NEAR(Net("q").probability, 0.5, 1e-9);
-  // Data with one switching input moves at most once a period: the
-  // register follows it, up to 2p(1-p) of the edges.
-  Annotate("c", 0.0, 1.0);
-  EXPECT_RATE(Net("n_xor").rate, 1e6);
-  EXPECT_RATE(Net("q").rate, 1e6);
+TEST_F(ActivityPropagationTest, FunctionsWorkedOutAsWritten) {
+  LoadDesign(R"(module act_sop(a, b, c, d, e, f, x1, x2);
+  input a, b, c, d, e, f; output x1, x2;
+  A_XNOR2S u1(.A(a), .B(b), .Z(x1));
+  A_AOI22 u2(.A1(c), .A2(d), .B1(e), .B2(f), .Z(x2));
+endmodule)",
+             "act_sop");
+  Annotate("a", 1e7, 0.4);
+  Annotate("b", 2e7, 0.25);
+  // (!A&!B): 0.6 x 0.75 = 0.45, 1e7 x 0.75 + 2e7 x 0.6 = 1.95e7;
+  // (A&B): 0.1, 1e7 x 0.25 + 2e7 x 0.4 = 1.05e7; OR-ed: 0.45 + 0.1 -
+  // 0.045 and 1.95e7 x 0.9 + 1.05e7 x 0.55. (The function itself, an
+  // XNOR: 0.55 and 3e7.)
+  EXPECT_NEAR(Net("x1").probability, 0.505, 1e-9);
+  EXPECT_RATE(Net("x1").rate, 2.3325e7);
+  for (const char* net : {"c", "d", "e", "f"}) Annotate(net, 2e7, 0.5);
+  // Each term 0.25 and 2e7; OR-ed left to right: 0.4375 and 3e7, then
+  // 0.578125 and 3e7 x 0.75 + 2e7 x 0.5625 = 3.375e7, then 0.68359375 and
+  // 3.375e7 x 0.75 + 2e7 x 0.421875 = 3.375e7. (The function itself:
+  // 0.5625 and 3e7.)
+  EXPECT_NEAR(Net("x2").probability, 0.68359375, 1e-9);
+  EXPECT_RATE(Net("x2").rate, 3.375e7);
 }
 
 TEST_F(ActivityPropagationTest, DefaultsClocksConstantsAndPartialSettings) {
@@ -185,36 +192,56 @@ endmodule)",
   Clock("clk", 10e-9f);
   Annotate("en", 1e7, 0.25);
   Annotate("d", 4e7, 0.5);
-  // Held three times in four: EN decides when D differs from the state
-  // (half the time), D when EN is 1: 0.5 * 1e7 + 0.25 * 4e7, summed over
-  // two inputs, so 5e7 (1 - exp(-1.5e7 / 5e7)).
-  EXPECT_RATE(Net("q").rate, 1.2959089e7);
-  EXPECT_NEAR(Net("q").probability, 0.5, 1e-6);
+  // The next state "(EN&D)|(!EN&IQ)" with the state at the inputs'
+  // default (1e7, 0.5): (EN&D) 0.125 and 1e7 x 0.5 + 4e7 x 0.25 = 1.5e7;
+  // (!EN&IQ) 0.375 and 1e7 x 0.5 + 1e7 x 0.75 = 1.25e7; OR-ed: 0.453125
+  // and 1.5e7 x 0.625 + 1.25e7 x 0.875 = 2.03125e7.
+  EXPECT_RATE(Net("q").rate, 2.03125e7);
+  EXPECT_NEAR(Net("q").probability, 0.453125, 1e-9);
   // A combinational loop and a register feeding itself end within the bound.
   EXPECT_NE(capture.Take().find("Combinational loop cut"), std::string::npos);
-  EXPECT_LE(store_->LastPasses(), power::ActivityPropagator::kMaxPasses);
+  EXPECT_LE(store_->LastPasses(), 2 * power::ActivityPropagator::kMaxPasses);
   EXPECT_TRUE(std::isfinite(Net("y").rate));
   EXPECT_GE(Net("y").probability, 0.0);
   EXPECT_LE(Net("y").probability, 1.0);
 }
 
-TEST_F(ActivityPropagationTest, RegistersAreWorkedOutAfterTheirDataInOnePass) {
-  LoadDesign(R"(module act_pipe(clk, d, q);
-  input clk, d; output q; wire q1, q2, n1, n2;
+TEST_F(ActivityPropagationTest, RegistersTakeTheirDataOnceAfterTheLogic) {
+  LoadDesign(R"(module act_pipe(clk, d, q, q4, n5);
+  input clk, d; output q, q4, n5; wire q1, q2, n1, n2, q5;
   A_DFF r1(.D(d), .CK(clk), .Q(q1));
   A_INV i1(.A(q1), .Z(n1));
   A_DFF r2(.D(n1), .CK(clk), .Q(q2));
   A_INV i2(.A(q2), .Z(n2));
   A_DFF r3(.D(n2), .CK(clk), .Q(q));
+  A_DFF r4(.D(q1), .CK(clk), .Q(q4));
+  A_DFF r5(.D(n5), .CK(clk), .Q(q5));
+  A_INV i5(.A(q5), .Z(n5));
 endmodule)",
              "act_pipe");
   Clock("clk", 10e-9f);
   Annotate("d", 4e7, 0.25);
-  // Each stage: min(4e7, 2 p (1 - p) 1e8) with p 0.25, then 0.75, 0.25.
-  EXPECT_RATE(Net("q").rate, 3.75e7);
-  EXPECT_NEAR(Net("q").probability, 0.25, 1e-9);
-  // One pass works it out, a second finds nothing moved.
-  EXPECT_EQ(store_->LastPasses(), 2);
+  // First the logic, every state at the inputs' default (0.1 a period,
+  // 1e7, and 0.5): nothing a seed reaches but the registers' data. Then
+  // each state from its data: r1 from d, r4 from q1 straight (registers
+  // in order), r2 and r3 from i1 and i2, which nothing had reached yet.
+  EXPECT_RATE(Net("q1").rate, 4e7);
+  EXPECT_NEAR(Net("q1").probability, 0.25, 1e-9);
+  EXPECT_RATE(Net("q4").rate, 4e7);
+  EXPECT_NEAR(Net("q4").probability, 0.25, 1e-9);
+  EXPECT_RATE(Net("q2").rate, 1e7);
+  EXPECT_NEAR(Net("q2").probability, 0.5, 1e-9);
+  EXPECT_RATE(Net("q").rate, 1e7);
+  // Then the logic again from the register outputs that moved: i1, not i2.
+  EXPECT_RATE(Net("n1").rate, 4e7);
+  EXPECT_NEAR(Net("n1").probability, 0.75, 1e-9);
+  EXPECT_NEAR(Net("n2").probability, 0.5, 1e-9);
+  // A loop nothing reaches keeps the default.
+  EXPECT_RATE(Net("n5").rate, 1e7);
+  EXPECT_NEAR(Net("n5").probability, 0.5, 1e-9);
+  // Passes: one that finds nothing to do, one for i1, one that finds
+  // nothing moved.
+  EXPECT_EQ(store_->LastPasses(), 3);
 }
 
 }  // namespace

@@ -34,8 +34,8 @@ class PowerAnalysisTest : public timertest::TimerTest {
                    "  INV u1 (.A(na), .Y(n1));\n"
                    "  AND2 u2 (.A(na), .B(nb), .Y(y));\n"
                    "endmodule\n"
-                   "module pw (a, b, clk, y, q);\n"
-                   "  input a, b, clk; output y, q;\n"
+                   "module pw (a, b, clk, c1, c2, c3, y, q, y2);\n"
+                   "  input a, b, clk, c1, c2, c3; output y, q, y2;\n"
                    "  wire na, nb, n1;\n"
                    "  BUF b0 (.A(a), .Y(na));\n"
                    "  BUFV b1 (.A(b), .Y(nb));\n"
@@ -43,6 +43,7 @@ class PowerAnalysisTest : public timertest::TimerTest {
                    "  DFF f1 (.D(n1), .CK(clk), .Q(q));\n"
                    "  MEM m1 ();\n"
                    "  PADC p1 (.A(n1));\n"
+                   "  O21AI u3 (.A1(c1), .A2(c2), .B1(c3), .Y(y2));\n"
                    "endmodule\n"),
               nullptr);
     ASSERT_TRUE(timer_->Update(false));
@@ -71,6 +72,10 @@ class PowerAnalysisTest : public timertest::TimerTest {
       {"y", {1e8, 0.4, cdm::PwrActivityOrigin::kPropagated}},
       {"clk", {2e8, 0.5, cdm::PwrActivityOrigin::kClock}},
       {"q", {5e7, 0.5, cdm::PwrActivityOrigin::kPropagated}},
+      {"c1", {4e7, 0.5, cdm::PwrActivityOrigin::kUser}},
+      {"c2", {2e7, 0.25, cdm::PwrActivityOrigin::kUser}},
+      {"c3", {1e7, 0.2, cdm::PwrActivityOrigin::kUser}},
+      {"y2", {3e7, 0.6, cdm::PwrActivityOrigin::kPropagated}},
   };
   std::unique_ptr<power::PowerAnalysis> analysis_;
 };
@@ -81,32 +86,39 @@ void ExpectPower(const cdm::PowerResult& power, double internal, double switchin
   EXPECT_NEAR(power.leakage, leakage, leakage * 1e-5 + 1e-18);
 }
 
-TEST_F(PowerAnalysisTest, InternalPowerInterpolatedAtTheCausingEdge) {
+TEST_F(PowerAnalysisTest, InternalPowerAtEachTablesOwnEdge) {
   Run();
-  // u1: load 0.015 pF (f1/D 0.01, p1/A 0.005). An inverter's output rises
-  // on the input's fall (slew 0.3): rise table at (0.3, 0.015) is 2.5; it
-  // falls on the input's rise (0.1): fall table at (0.1, 0.015) is 0.75.
-  // Each table is charged at the whole rate: (2.5 + 0.75) pJ a transition,
-  // 1e8 a second: 3.25e-4 W.
+  // u1: load 0.015 pF (f1/D 0.01, p1/A 0.005) on both edges. Each table is
+  // read at the input's slew of its own edge: rise table at the rising
+  // slew 0.1 and 0.015 is 1.5, fall table at the falling slew 0.3 is 1.25.
+  // Both are charged at the arc's rate, the input's own 2e8 ("!A" passes
+  // every transition of A): 2e8 x 2.75 pJ = 5.5e-4 W.
   // Switching: 0.5 x 0.015 pF x 1 V^2 x 1e8 = 7.5e-7 W; leakage 3 nW.
-  ExpectPower(Of("c/u1"), 3.25e-4, 7.5e-7, 3e-9);
+  ExpectPower(Of("c/u1"), 5.5e-4, 7.5e-7, 3e-9);
 }
 
-TEST_F(PowerAnalysisTest, OutputRateSharedByHowOftenEachInputDecides) {
+TEST_F(PowerAnalysisTest, ArcsChargedAtWhatTheirInputsImply) {
   Run();
-  // u2 = A&B: A decides when B is 1 (0.75), B when A is 1 (0.5). A's
-  // share: 2e8 x 0.75 against B's 1e8 x 0.5, so 0.75 and 0.25. A's
-  // tables sum to 2 + 2, B's one `power` table counts for both edges, 4 + 4:
-  // 1e8 x (0.75 x 4 + 0.25 x 8) pJ = 5e-4 W. No load on y.
+  // u2 = A&B, each an operand of the AND: A passes when B is 1, 2e8 x
+  // 0.75; B when A is 1, 1e8 x 0.5. A's tables sum to 2 + 2, B's one
+  // `power` table counts for both edges, 4 + 4: 1.5e8 x 4 pJ + 5e7 x 8 pJ
+  // = 1e-3 W. No load on y.
   // Leakage: A&B 0.375 x 10 + !A&!B 0.125 x 2 + what is left (0.5) x 4 = 6 nW.
-  ExpectPower(Of("c/u2"), 5e-4, 0.0, 6e-9);
+  ExpectPower(Of("c/u2"), 1e-3, 0.0, 6e-9);
+  // u3 = (!A1&!A2) | (!B1): B1 is an operand of the OR, passing while
+  // !A1&!A2 is 0: 1e7 x (1 - 0.5 x 0.75) x 10 pJ = 6.25e-5. A1 and A2 lie
+  // deeper: each at half the output's 3e7, 1.5e7 x 2 pJ + 1.5e7 x 6 pJ =
+  // 1.2e-4. A1's own group, not a clock pin, at half its rate: 2e7 x 4 pJ
+  // = 8e-5. Leakage 1 nW.
+  ExpectPower(Of("u3"), 6.25e-5 + 1.2e-4 + 8e-5, 0.0, 1e-9);
 }
 
-TEST_F(PowerAnalysisTest, WhenConditionsOfAnInputAndARegisterOutput) {
+TEST_F(PowerAnalysisTest, WhenConditionsOfAClockPinAndARegisterOutput) {
   Run();
-  // f1/CK: 2e8 x (P(D) 0.25 x (3 + 1) + 0.75 x (1 + 1)) pJ = 5e-4;
-  // f1/Q: 5e7 x (4 + 2) pJ = 3e-4. No leakage of its own: the library's
-  // default, 7 nW.
+  // f1/CK, a clock pin, at its whole rate: 2e8 x (P(D) 0.25 x (3 + 1) +
+  // 0.75 x (1 + 1)) pJ = 5e-4; f1/Q, its function not reading CK, at its
+  // whole rate: 5e7 x (4 + 2) pJ = 3e-4. No leakage of its own: the
+  // library's default, 7 nW.
   ExpectPower(Of("f1"), 8e-4, 0.0, 7e-9);
 }
 
@@ -135,25 +147,23 @@ TEST_F(PowerAnalysisTest, SwitchingAtTheDriversSupply) {
 
 TEST_F(PowerAnalysisTest, GroupsAndHierarchySums) {
   Run();
-  ExpectPower(Of("c"), 3.25e-4 + 5e-4, 7.5e-7, 9e-9);
+  ExpectPower(Of("c"), 5.5e-4 + 1e-3, 7.5e-7, 9e-9);
   using PA = power::PowerAnalysis;
   ExpectPower(analysis_->GroupPower(PA::kSequential), 8e-4, 0.0, 7e-9);
-  ExpectPower(analysis_->GroupPower(PA::kCombinational), 8.25e-4, 1.5e-6 + 2e-6 + 7.5e-7, 12e-9);
+  ExpectPower(analysis_->GroupPower(PA::kCombinational), 1.55e-3 + 2.625e-4, 1.5e-6 + 2e-6 + 7.5e-7,
+              13e-9);
   ExpectPower(analysis_->GroupPower(PA::kMacro), 0.0, 0.0, 100e-9);
   ExpectPower(analysis_->GroupPower(PA::kPad), 0.0, 0.0, 50e-9);
-  ExpectPower(analysis_->Total(), 1.625e-3, 4.25e-6, 169e-9);
+  ExpectPower(analysis_->Total(), 2.6125e-3, 4.25e-6, 170e-9);
 }
 
-TEST(TruthProbability, OneAndBooleanDifference) {
+TEST(TruthProbability, One) {
   // a&b|c over inputs a (bit 0), b (bit 1), c (bit 2).
   std::vector<bool> table(8);
   for (size_t row = 0; row < 8; ++row) table[row] = ((row & 3) == 3) || (row & 4);
   const std::vector<double> one = {0.5, 0.25, 0.1};
   // 1 - (1 - 0.125) x 0.9
   EXPECT_NEAR(power::ProbabilityOfOne(table, one), 0.2125, 1e-12);
-  // a decides when b and not c: 0.25 x 0.9; c when not a&b: 0.875.
-  EXPECT_NEAR(power::ProbabilityDecides(table, one, 0), 0.225, 1e-12);
-  EXPECT_NEAR(power::ProbabilityDecides(table, one, 2), 0.875, 1e-12);
 }
 
 }  // namespace
