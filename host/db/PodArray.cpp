@@ -16,8 +16,10 @@ void AdviseHugePages(void* data, size_t bytes) {
 }
 
 size_t PagedBytes(size_t bytes) {
-  constexpr size_t kHuge = size_t{2} << 20;
-  return (bytes + kHuge - 1) & ~(kHuge - 1);
+  // Whole pages, not whole huge pages: the part of a huge page past the
+  // array's end would be resident as soon as the last element is written.
+  constexpr size_t kPage = size_t{4} << 10;
+  return (bytes + kPage - 1) & ~(kPage - 1);
 }
 
 void* MapPages(size_t bytes) {

@@ -21,7 +21,7 @@ void AdviseHugePages(void* data, size_t bytes);
 
 // Arrays of this many bytes or more live in pages of their own.
 constexpr size_t kPagedBytes = size_t{4} << 20;
-// The bytes mapped for an array of `bytes`: whole huge pages.
+// The bytes mapped for an array of `bytes`: whole pages.
 size_t PagedBytes(size_t bytes);
 // Fresh zeroed pages of `bytes` (a PagedBytes figure), with huge pages
 // asked for; the same pages grown to `bytes`, moved if need be; given back.
