@@ -159,6 +159,8 @@ class SdcStore {
   void RelinkObjects(std::vector<SdcObject>& objects, const char* what);
   void RelinkExceptions();
   void RelinkDisabled();
+  void RelinkWireLoads(const cdm::WireLoad* (&models)[2], const char* kind,
+                       const std::string& name);
   void RetireClock(Clock* clock);
   void Dropped(const std::string& kind, const std::string& name, const std::string& what);
   // `what` on an object that stays is dropped, as a `part_kind` it needs

@@ -80,6 +80,22 @@ std::string Describe(const PinConstraints& record) {
 
 }  // namespace
 
+// The min and max models of a design, port or hierarchical cell: one
+// warning for a model the libraries no longer hold, also when it stood for
+// both.
+void SdcStore::RelinkWireLoads(const cdm::WireLoad* (&models)[2], const char* kind,
+                               const std::string& name) {
+  const cdm::WireLoad* warned = nullptr;
+  for (const cdm::WireLoad*& model : models) {
+    if (!model) continue;
+    const cdm::WireLoad* now = CurrentWireLoad(model);
+    if (!now && model != warned)
+      DroppedPart("set_wire_load_model", kind, name, "wire-load model", model->name);
+    if (!now) warned = model;
+    model = now;
+  }
+}
+
 void SdcStore::Relink(cdm::Design* design) {
   RelinkClocks(design);  // first: delays and exceptions refer to clocks
   RelinkPorts(design);
@@ -87,21 +103,18 @@ void SdcStore::Relink(cdm::Design* design) {
   RelinkNetsAndCells();
   RelinkExceptions();
   RelinkDisabled();
+  RelinkWireLoads(design_.wire_load, "design", design_name_);
+  const cdm::OperatingConditions* warned = nullptr;
   for (int i = 0; i < 2; ++i) {
-    if (design_.wire_load[i]) {
-      const cdm::WireLoad* now = CurrentWireLoad(design_.wire_load[i]);
-      if (!now) Dropped("wire load model", design_.wire_load[i]->name, "set_wire_load_model");
-      design_.wire_load[i] = now;
-    }
     if (design_.selection_library[i])
       design_.selection_library[i] = CurrentLibrary(design_.selection_library[i]);
-    if (design_.operating_conditions[i]) {
+    if (const cdm::OperatingConditions* old = design_.operating_conditions[i]) {
       cdm::LibertyLib* lib = CurrentLibrary(design_.operating_library[i]);
-      const cdm::OperatingConditions* now =
-          lib ? lib->GetOperatingConditions(design_.operating_conditions[i]->name) : nullptr;
-      if (!now)
-        Dropped("operating conditions", design_.operating_conditions[i]->name,
-                "set_operating_conditions");
+      const cdm::OperatingConditions* now = lib ? lib->GetOperatingConditions(old->name) : nullptr;
+      if (!now && old != warned)
+        DroppedPart("set_operating_conditions", "design", design_name_, "operating conditions",
+                    old->name);
+      if (!now) warned = old;
       design_.operating_conditions[i] = now;
       design_.operating_library[i] = now ? lib : nullptr;
     }
@@ -191,8 +204,7 @@ void SdcStore::RelinkPorts(cdm::Design* design) {
       }
       if (drive->hasDriveCell()) ++driving_cells_;
     }
-    for (auto& wire_load : record->wire_load)
-      if (wire_load) wire_load = CurrentWireLoad(wire_load);
+    RelinkWireLoads(record->wire_load, "port", record->name);
     if (record->fanout_load) {
       cdm::Attribute attribute;
       attribute.id = cdm::AttrId::kFanoutLoad;
@@ -264,8 +276,7 @@ void SdcStore::RelinkNetsAndCells() {
       Dropped("cell", entry.second->name, "set_wire_load_model");
       continue;
     }
-    for (auto& wire_load : entry.second->wire_load)
-      if (wire_load) wire_load = CurrentWireLoad(wire_load);
+    RelinkWireLoads(entry.second->wire_load, "cell", entry.second->name);
     cells.Slot(cell) = std::move(entry.second);
   }
   cells_ = std::move(cells);
