@@ -168,8 +168,14 @@ void PrintTimingSetup(SdcStore& store) {
 void PrintDesignRules(SdcStore& store) {
   const sta::sdc::DesignConstraints& design = store.DesignRef();
   const cdm::LibertyLib* lib = cdm::DbManager::GetDefaultLiberty();
-  auto unit = [&](const cdm::Unit& (cdm::LibertyLib::*pick)() const) -> std::string {
-    return lib ? (lib->*pick)().libval() : std::string();
+  // The unit the values are printed in: set_units's, else the default
+  // library's, else the one the store reads values in without a library.
+  auto unit = [&](sta::sdc::SdcUnits::Quantity quantity,
+                  const cdm::Unit& (cdm::LibertyLib::*pick)() const,
+                  const char* fallback) -> std::string {
+    const std::string user = store.Units().UserText(quantity);
+    if (!user.empty()) return user;
+    return lib ? (lib->*pick)().libval() : std::string(fallback);
   };
   auto scale = [&](sta::sdc::SdcUnits::Quantity quantity) { return store.Units().Scale(quantity); };
   msg::InsertEmptyLine();
@@ -185,15 +191,15 @@ void PrintDesignRules(SdcStore& store) {
   if (design.max_transition)
     line("max_transition", design.max_transition,
          SdcWriter::Value(*design.max_transition, scale(Q::kTime)) + " (" +
-             unit(&cdm::LibertyLib::GetTimeUnit) + ")");
+             unit(Q::kTime, &cdm::LibertyLib::GetTimeUnit, "1ns") + ")");
   if (design.max_capacitance)
     line("max_capacitance", design.max_capacitance,
          SdcWriter::Value(*design.max_capacitance, scale(Q::kCapacitance)) + " (" +
-             unit(&cdm::LibertyLib::GetCapacitanceUnit) + ")");
+             unit(Q::kCapacitance, &cdm::LibertyLib::GetCapacitanceUnit, "1pF") + ")");
   if (design.min_capacitance)
     line("min_capacitance", design.min_capacitance,
          SdcWriter::Value(*design.min_capacitance, scale(Q::kCapacitance)) + " (" +
-             unit(&cdm::LibertyLib::GetCapacitanceUnit) + ")");
+             unit(Q::kCapacitance, &cdm::LibertyLib::GetCapacitanceUnit, "1pF") + ")");
   if (design.max_fanout)
     line("max_fanout", design.max_fanout, SdcWriter::Value(*design.max_fanout, 1.0));
   if (design.max_area) line("max_area", design.max_area, SdcWriter::Value(*design.max_area, 1.0));
