@@ -58,9 +58,9 @@ struct CellPower::Group {
 // How often an output's arc from one related pin is charged, as the
 // established timing engines charge it (docs/power.md): a pin that is an
 // operand of the function's last operator (through inversions), at its own
-// rate times the chance that the other operand lets it through; a pin the
-// function does not read (a register's clock), at the output's rate; any
-// other pin of the function, at half the output's rate.
+// rate times the chance that the other operand is 1 (AND) or 0 (OR, XOR);
+// a pin the function does not read (a register's clock), at the output's
+// rate; any other pin of the function, at half the output's rate.
 struct CellPower::Arc {
   enum Kind { kOperand, kWhole, kHalf } kind = kWhole;
   int input = -1;    // kOperand: the pin's input in the function
@@ -298,10 +298,10 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
       if (arc.kind == Arc::kHalf) {
         rate = 0.5 * out_rate;
       } else if (arc.kind == Arc::kOperand) {
-        // Through the other operand: always (XOR, or none), while it is 1
-        // (AND) or while it is 0 (OR).
+        // Through the other operand: while it is 1 (AND), while it is 0
+        // (OR, and XOR as the engines charge it), always without one.
         double through = 1.0;
-        if (arc.sibling >= 0 && arc.op != cdm::LibBoolFuncExpr::Op::kXor) {
+        if (arc.sibling >= 0) {
           const double p = FunctionActivity(*output.expression, inputs, arc.sibling).probability;
           through = arc.op == cdm::LibBoolFuncExpr::Op::kAnd ? p : 1.0 - p;
         }

@@ -37,8 +37,9 @@ Activity Of(const cdm::LibBoolFuncExpr& function, const std::vector<Activity>& i
       return {pa * pb, a.density * pb + b.density * pa};
     case Op::kOr:
       return {pa + pb - pa * pb, a.density * (1.0 - pb) + b.density * (1.0 - pa)};
-    default:  // kXor
-      return {pa * (1.0 - pb) + pb * (1.0 - pa), a.density + b.density};
+    default:  // kXor: each operand's density weighted as the peer does
+      return {pa * (1.0 - pb) + pb * (1.0 - pa),
+              a.density * pa * (1.0 - pb) + b.density * (1.0 - pa) * pb};
   }
 }
 

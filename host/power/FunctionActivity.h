@@ -23,7 +23,8 @@ struct Activity {
 // `inputs[i]` is the activity of the function's i-th port (GetFuncPorts
 // order). An operator over operands a, b: NOT (1 - pa, da); AND (pa pb,
 // da pb + db pa); OR (pa + pb - pa pb, da (1 - pb) + db (1 - pa)); XOR
-// (pa (1 - pb) + pb (1 - pa), da + db).
+// (pa (1 - pb) + pb (1 - pa), da pa (1 - pb) + db (1 - pa) pb), the
+// engines' figure for it, not the XOR's own density da + db.
 Activity FunctionActivity(const cdm::LibBoolFuncExpr& function, const std::vector<Activity>& inputs,
                           int node = -1);
 

@@ -2,9 +2,9 @@
 # activity_gates.v: defaults of 0.1 toggles per period of the fastest clock
 # and probability 0.5 at the inputs, then rates per time unit, per clock
 # period and per -period, on nets, ports and pins, and the refusals.
-# The register takes its data n_inv's figures, whatever its clock: by
-# default p 0.375 and 2e7 a second; then p 0.34 and 1.15e8 (the XOR's
-# 3e7 + 8.5e7).
+# The XOR: 1e7 x 0.25 x 0.25 + 1e7 x 0.75 x 0.75 = 6.25e6 a second by
+# default, then 3e7 x 0.1 x 0.3 + 8.5e7 x 0.9 x 0.7 = 5.445e7; n_inv and
+# the register take its figures, whatever the clock.
 read_liberty activity_small.lib
 read_verilog activity_gates.v
 link_design activity_gates
