@@ -57,7 +57,7 @@ struct CellPower::Group {
 
 // How often an output's arc from one related pin is charged, as the
 // established timing engines charge it (docs/power.md): a pin that is an
-// operand of the function's last operator (through inversions), at its own
+// operand of the function's last operator (both through inversions), at its own
 // rate times the chance that the other operand is 1 (AND) or 0 (OR, XOR);
 // a pin the function does not read (a register's clock), at the output's
 // rate; any other pin of the function, at half the output's rate.
@@ -126,11 +126,13 @@ CellPower::Arc CellPower::ArcOf(const cdm::LibBoolFuncExpr* function, const cdm:
   if (found == ports.end()) return arc;
   arc.kind = Arc::kHalf;
   arc.input = static_cast<int>(found - ports.begin());
-  const int root = function->Root();
+  int root = function->Root();
   if (Literal(*function, root) == port) {
     arc.kind = Arc::kOperand;
     return arc;
   }
+  // The last operator under the inversions of the whole ("!(A & B)").
+  while (function->Nodes()[root].op == Op::kNot) root = function->Nodes()[root].left;
   const cdm::LibBoolFuncExpr::Node& top = function->Nodes()[root];
   if (top.op != Op::kAnd && top.op != Op::kOr && top.op != Op::kXor) return arc;
   for (int side = 0; side < 2; ++side) {
@@ -328,7 +330,10 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
         args.load = output_load;
         energy += sta::TableValue(*group.model[edge]->GetTable(), args);
       }
-      const double rate = group.related >= 0 ? arc_rate[group.related] : out_rate;
+      // A group with a `when` counts at the output's whole rate while its
+      // condition holds, whatever the arc, as the engines charge it.
+      const double rate =
+          group.related >= 0 && group.when.always ? arc_rate[group.related] : out_rate;
       internal += rate * weight[g] * energy;
     }
 
@@ -346,8 +351,9 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
     if (nets) nets->push_back(net);
   }
 
-  // Groups of inputs: the pin's own slew, at half its rate (a clock pin at
-  // its whole rate), as the established engines charge them.
+  // Groups of inputs: the pin's own slew, at half its rate (a clock pin,
+  // or a group with a `when`, at its whole rate), as the established
+  // engines charge them.
   for (size_t g = 0; g < plan.groups.size(); ++g) {
     const Group& group = plan.groups[g];
     if (group.on_output || weight[g] == 0.0) continue;
@@ -359,7 +365,8 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
       args.related_slew = args.in_slew;
       energy += sta::TableValue(*group.model[edge]->GetTable(), args);
     }
-    const double rate = acts_[group.owner].rate * (plan.ports[group.owner]->IsClock() ? 1.0 : 0.5);
+    const bool whole = plan.ports[group.owner]->IsClock() || !group.when.always;
+    const double rate = acts_[group.owner].rate * (whole ? 1.0 : 0.5);
     internal += rate * weight[g] * energy;
   }
   result.internal = static_cast<float>(internal);

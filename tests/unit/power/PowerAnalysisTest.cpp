@@ -34,8 +34,8 @@ class PowerAnalysisTest : public timertest::TimerTest {
                    "  INV u1 (.A(na), .Y(n1));\n"
                    "  AND2 u2 (.A(na), .B(nb), .Y(y));\n"
                    "endmodule\n"
-                   "module pw (a, b, clk, c1, c2, c3, y, q, y2, y3);\n"
-                   "  input a, b, clk, c1, c2, c3; output y, q, y2, y3;\n"
+                   "module pw (a, b, clk, c1, c2, c3, y, q, y2, y3, y4);\n"
+                   "  input a, b, clk, c1, c2, c3; output y, q, y2, y3, y4;\n"
                    "  wire na, nb, n1;\n"
                    "  BUF b0 (.A(a), .Y(na));\n"
                    "  BUFV b1 (.A(b), .Y(nb));\n"
@@ -45,6 +45,7 @@ class PowerAnalysisTest : public timertest::TimerTest {
                    "  PADC p1 (.A(n1));\n"
                    "  O21AI u3 (.A1(c1), .A2(c2), .B1(c3), .Y(y2));\n"
                    "  XOR2 u4 (.A(c1), .B(c3), .Y(y3));\n"
+                   "  NAND2W u5 (.A(c2), .B(c3), .Y(y4));\n"
                    "endmodule\n"),
               nullptr);
     ASSERT_TRUE(timer_->Update(false));
@@ -77,6 +78,7 @@ class PowerAnalysisTest : public timertest::TimerTest {
       {"c2", {2e7, 0.25, cdm::PwrActivityOrigin::kUser}},
       {"c3", {1e7, 0.2, cdm::PwrActivityOrigin::kUser}},
       {"y2", {3e7, 0.6, cdm::PwrActivityOrigin::kPropagated}},
+      {"y4", {2e7, 0.9, cdm::PwrActivityOrigin::kPropagated}},
   };
   std::unique_ptr<power::PowerAnalysis> analysis_;
 };
@@ -113,8 +115,13 @@ TEST_F(PowerAnalysisTest, ArcsChargedAtWhatTheirInputsImply) {
   // = 8e-5. Leakage 1 nW.
   ExpectPower(Of("u3"), 6.25e-5 + 1.2e-4 + 8e-5, 0.0, 1e-9);
   // u4 = A^B, charged as an OR: A while B is 0, 4e7 x 0.8 x 2 pJ; B while
-  // A is 0, 1e7 x 0.5 x 4 pJ.
-  ExpectPower(Of("u4"), 6.4e-5 + 2e-5, 0.0, 1e-9);
+  // A is 0, 1e7 x 0.5 x 4 pJ. B's own group has a `when`: its whole rate
+  // while A is 1, 1e7 x 0.5 x 2 pJ.
+  ExpectPower(Of("u4"), 6.4e-5 + 2e-5 + 1e-5, 0.0, 1e-9);
+  // u5 = !(A&B): B is an operand of the AND under the inversion, passing
+  // while A is 1: 1e7 x 0.25 x 6 pJ. A's one group has a `when`: the
+  // output's whole rate while B is 1, 2e7 x 0.2 x 2 pJ.
+  ExpectPower(Of("u5"), 1.5e-5 + 8e-6, 0.0, 1e-9);
 }
 
 TEST_F(PowerAnalysisTest, WhenConditionsOfAClockPinAndARegisterOutput) {
@@ -154,11 +161,11 @@ TEST_F(PowerAnalysisTest, GroupsAndHierarchySums) {
   ExpectPower(Of("c"), 5.5e-4 + 1e-3, 7.5e-7, 9e-9);
   using PA = power::PowerAnalysis;
   ExpectPower(analysis_->GroupPower(PA::kSequential), 8e-4, 0.0, 7e-9);
-  ExpectPower(analysis_->GroupPower(PA::kCombinational), 1.55e-3 + 2.625e-4 + 8.4e-5,
-              1.5e-6 + 2e-6 + 7.5e-7, 14e-9);
+  ExpectPower(analysis_->GroupPower(PA::kCombinational), 1.55e-3 + 2.625e-4 + 9.4e-5 + 2.3e-5,
+              1.5e-6 + 2e-6 + 7.5e-7, 15e-9);
   ExpectPower(analysis_->GroupPower(PA::kMacro), 0.0, 0.0, 100e-9);
   ExpectPower(analysis_->GroupPower(PA::kPad), 0.0, 0.0, 50e-9);
-  ExpectPower(analysis_->Total(), 2.6965e-3, 4.25e-6, 171e-9);
+  ExpectPower(analysis_->Total(), 2.7295e-3, 4.25e-6, 172e-9);
 }
 
 TEST(TruthProbability, One) {
