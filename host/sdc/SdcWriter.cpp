@@ -84,6 +84,22 @@ std::string SdcWriter::Quote(const std::string& text) {
   return quoted;
 }
 
+std::string SdcWriter::Pattern(const std::string& name) {
+  int count = 0;
+  const char** elements = nullptr;
+  bool alone = false;
+  if (Tcl_SplitList(nullptr, name.c_str(), &count, &elements) == TCL_OK) {
+    alone = count == 1 && name == elements[0];
+    Tcl_Free(reinterpret_cast<char*>(elements));
+  }
+  if (alone) return Quote(name);
+  const char* argv[] = {name.c_str()};
+  char* merged = Tcl_Merge(1, argv);
+  const std::string element = merged;
+  Tcl_Free(merged);
+  return Quote(element);
+}
+
 std::string SdcWriter::QueryCommand(query::ObjectKind kind) {
   switch (kind) {
     case K::kPort:
@@ -117,7 +133,7 @@ std::string SdcWriter::Query(query::ObjectKind kind, const std::vector<std::stri
   // No names: an empty list, as a query without patterns would get every
   // object of the kind.
   if (names.empty()) return "{}";
-  if (names.size() == 1) return "[" + QueryCommand(kind) + " " + Quote(names.front()) + "]";
+  if (names.size() == 1) return "[" + QueryCommand(kind) + " " + Pattern(names.front()) + "]";
   std::vector<const char*> argv;
   for (const std::string& name : names) argv.push_back(name.c_str());
   char* merged = Tcl_Merge(static_cast<int>(argv.size()), argv.data());
@@ -128,8 +144,8 @@ std::string SdcWriter::Query(query::ObjectKind kind, const std::vector<std::stri
 
 std::string SdcWriter::PinObject(const cdm::Pin* pin) {
   if (pin->IsTopPortPin() && pin->GetPort())
-    return "[get_ports " + Quote(pin->GetPort()->Name()) + "]";
-  return "[get_pins " + Quote(pin->GetFullName()) + "]";
+    return "[get_ports " + Pattern(pin->GetPort()->Name()) + "]";
+  return "[get_pins " + Pattern(pin->GetFullName()) + "]";
 }
 
 template <class Print>
@@ -277,7 +293,7 @@ void SdcWriter::WriteClock(const Clock* clock) {
     out_ << "create_generated_clock -name " << Quote(clock->Name());
     if (clock->getGeneratedSource()) out_ << " -source " << PinObject(clock->getGeneratedSource());
     if (clock->getMasterClock())
-      out_ << " -master_clock [get_clocks " << Quote(clock->getMasterClock()->Name()) << "]";
+      out_ << " -master_clock [get_clocks " << Pattern(clock->getMasterClock()->Name()) << "]";
     if (!clock->getEdges().empty()) {
       out_ << " -edges {";
       for (size_t i = 0; i < clock->getEdges().size(); ++i)
@@ -308,7 +324,7 @@ void SdcWriter::WriteClock(const Clock* clock) {
 
 void SdcWriter::WriteClockAttributes() {
   for (const Clock* clock : store_.Clocks()) {
-    const std::string object = " [get_clocks " + Quote(clock->Name()) + "]";
+    const std::string object = " [get_clocks " + Pattern(clock->Name()) + "]";
     if (clock->isPropagated()) out_ << "set_propagated_clock" << object << "\n";
     std::optional<float> uncertainty[2] = {clock->getUncertainty(cdm::MinMax::min_),
                                            clock->getUncertainty(cdm::MinMax::max_)};
@@ -329,8 +345,8 @@ void SdcWriter::WriteClockAttributes() {
                                                                         : "-to";
     WritePair(entry.value, "-hold", "-setup", [&](const std::string& flag, float value) {
       out_ << "set_clock_uncertainty" << flag << " " << from << " [get_clocks "
-           << Quote(entry.from->Name()) << "] " << to << " [get_clocks " << Quote(entry.to->Name())
-           << "] " << Time(value) << "\n";
+           << Pattern(entry.from->Name()) << "] " << to << " [get_clocks "
+           << Pattern(entry.to->Name()) << "] " << Time(value) << "\n";
     });
   }
   for (const ClockGroups& groups : store_.ClockGroupList()) {
@@ -379,7 +395,7 @@ void SdcWriter::WriteDelays() {
         std::string head = command;
         std::string tail;
         if (delay->getClock()) {
-          tail += " -clock [get_clocks " + Quote(delay->getClock()->Name()) + "]";
+          tail += " -clock [get_clocks " + Pattern(delay->getClock()->Name()) + "]";
           if (delay->getClockEdge()->getRiseFall() == cdm::RiseFall::fall_) tail += " -clock_fall";
         }
         if (delay->getRefPin()) tail += " -reference_pin " + PinObject(delay->getRefPin());
@@ -399,7 +415,7 @@ void SdcWriter::WritePorts() {
   for (cdm::Port* port : design->Ports()) {
     const PortConstraints* record = store_.FindPort(port);
     if (!record) continue;
-    const std::string object = " [get_ports " + Quote(port->Name()) + "]";
+    const std::string object = " [get_ports " + Pattern(port->Name()) + "]";
     auto cap = [&](float value) { return Cap(value); };
     if (const PortExtLoad* load = record->load.get()) {
       WriteSlots(load->getPinLoads(), "set_load -pin_load", object, cap);
@@ -503,7 +519,7 @@ void SdcWriter::WriteNetsAndCells() {
             [](const auto& a, const auto& b) { return a.second->name < b.second->name; });
   for (auto& entry : nets) {
     const auto& record = entry.second;  // a lambda below takes it: no structured binding
-    const std::string object = " [get_nets " + Quote(record->name) + "]";
+    const std::string object = " [get_nets " + Pattern(record->name) + "]";
     WritePair(record->wire_cap, "-min", "-max", [&](const std::string& flag, float value) {
       out_ << "set_load" << flag << (record->subtract_pin_load ? " -subtract_pin_load" : "") << " "
            << Cap(value) << object << "\n";
@@ -513,7 +529,7 @@ void SdcWriter::WriteNetsAndCells() {
   std::sort(cells.begin(), cells.end(),
             [](const auto& a, const auto& b) { return a.second->name < b.second->name; });
   for (auto& [cell, record] : cells) {
-    const std::string object = " [get_cells " + Quote(record->name) + "]";
+    const std::string object = " [get_cells " + Pattern(record->name) + "]";
     auto line = [&](const char* flag, const cdm::WireLoad* wire_load) {
       out_ << "set_wire_load_model -name " << Quote(wire_load->name);
       if (wire_load->library) out_ << " -library " << Quote(wire_load->library->Name());

@@ -44,6 +44,10 @@ class SdcWriter {
   // "[get_ports {a b}]": one query for names of one kind.
   static std::string Query(query::ObjectKind kind, const std::vector<std::string>& names);
   static std::string Quote(const std::string& text);
+  // The word that gives a get_* command the one name `name`: the command
+  // reads its argument as a Tcl list of patterns, so a name that does not
+  // read back alone as a list is quoted as a list element first.
+  static std::string Pattern(const std::string& name);
   // One command per group of equal values of a record: `head` + flags +
   // value + `tail` (value printed by `print`).
   template <class Print>

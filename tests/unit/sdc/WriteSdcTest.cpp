@@ -110,4 +110,31 @@ TEST_F(WriteSdcTest, EachOptionIsWrittenAndReadsBackToTheSameStore) {
   EXPECT_EQ(Written(), written) << "on top of the same constraints";
 }
 
+// Escaped names may hold what a Tcl list reads otherwise: a backslash, a
+// brace, a quote, a semicolon. Each reads back as the name it was.
+TEST_F(WriteSdcTest, NamesThatAreNoPlainListElementsReadBack) {
+  auto netlist = [](const std::string& top) {
+    return "module " + top + R"( (\a{b , \e\f , \g;h , clk, \c}d , \x"y );
+  input \a{b , \e\f , \g;h , clk; output \c}d , \x"y ;
+  BUF u1 (.A(\a{b ), .Z(\c}d ));
+  BUF \u\2 (.A(\e\f ), .Z(\x"y ));
+endmodule)";
+  };
+  Load(netlist("escaped_a"), "escaped_a");
+  Eval("create_clock -name {odd\\clk} -period 10 clk");
+  Eval("set_input_delay 1 -clock [all_clocks] [remove_from_collection [all_inputs] clk]");
+  Eval("set_load 0.1 [all_outputs]");
+  Eval("set_case_analysis 0 [get_pins -of_objects [get_cells -quiet *2]]");
+  const std::string written = Written();
+  for (const char* port : {"a{b", "e\\f", "g;h"})
+    EXPECT_NE(Store().FindPin(Pin(port)), nullptr) << port;
+  Load(netlist("escaped_b"), "escaped_b");
+  Read(written);
+  EXPECT_EQ(Printed(), "") << "no name went unmatched";
+  EXPECT_EQ(Written(), written);
+  const sta::sdc::InputDelaySet* delays = Sdc()->getInputDelays(Pin("e\\f"));
+  ASSERT_NE(delays, nullptr);
+  EXPECT_EQ(delays->front()->getClock()->Name(), "odd\\clk");
+}
+
 }  // namespace
