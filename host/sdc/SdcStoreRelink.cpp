@@ -226,6 +226,8 @@ void SdcStore::RelinkPins(cdm::Design*) {
       Dropped("pin", record->name, Describe(*record));
       continue;
     }
+    // A delay on a top port is said to be on the port, as it was set.
+    const char* kind = pin->IsTopPortPin() ? "port" : "pin";
     auto relink_delays = [&](auto& owned, auto& delays, const char* command) {
       delays.clear();
       for (auto it = owned.begin(); it != owned.end();) {
@@ -234,13 +236,12 @@ void SdcStore::RelinkPins(cdm::Design*) {
         bool keep = true;
         if (delay->clock_edge_ &&
             FindClock(delay->clock_edge_->getClock()->Name()) != delay->clock_edge_->getClock()) {
-          DroppedPart(command, "pin", record->name, "clock",
-                      delay->clock_edge_->getClock()->Name());
+          DroppedPart(command, kind, record->name, "clock", delay->clock_edge_->getClock()->Name());
           keep = false;
         } else if (!delay->ref_pin_name_.empty()) {
           delay->ref_pin_ = cdm::DbManager::FindPin(delay->ref_pin_name_);
           if (!delay->ref_pin_) {
-            DroppedPart(command, "pin", record->name, "reference pin", delay->ref_pin_name_);
+            DroppedPart(command, kind, record->name, "reference pin", delay->ref_pin_name_);
             keep = false;
           }
         }
