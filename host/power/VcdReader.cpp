@@ -126,12 +126,12 @@ class VcdParser {
         if (tokens.size() != 2) return Fail(line, "expected '$scope TYPE NAME $end'");
         scopes_.emplace_back(tokens[1]);
         if (scopes_.size() == Depth() && InScope()) found_ = true;
-        leaf_.push_back(LeafScope());
+        levels_.push_back(Enter(scopes_.back()));
       } else if (token == "$upscope") {
         if (!UpToEnd(tokens, token)) return false;
         if (scopes_.empty()) return Fail(line, "'$upscope' outside every scope");
         scopes_.pop_back();
-        leaf_.pop_back();
+        levels_.pop_back();
       } else if (token == "$var") {
         if (!UpToEnd(tokens, token) || !Var(tokens, line)) return false;
       } else {
@@ -158,17 +158,42 @@ class VcdParser {
     return Fail(line, "expected a timescale such as '1ps', found '" + text + "'");
   }
 
-  // A scope below the design's that is a leaf cell of it (a library cell, or
-  // a cell whose reference did not resolve): its variables are pins, which
-  // the nets already cover. So is every scope inside it.
-  bool LeafScope() const {
-    if (leaf_.size() && leaf_.back()) return true;
-    if (!InScope() || scopes_.size() <= Depth()) return false;
-    std::string path;
-    for (size_t i = Depth(); i < scopes_.size(); ++i)
-      path += (path.empty() ? "" : "/") + scopes_[i];
-    const cdm::Cell* cell = cdm::FindCellByPath(&design_, path);
-    return cell && !cell->GetRefDesign();
+  // Where an open scope lies in the design, found a level at a time from
+  // the scope above (a dump's hierarchy may be thousands deep). A scope
+  // that names no cell stays pending in its netlist: with the scopes below
+  // it, it may name a cell or net whose own name holds "/", as in a
+  // flattened netlist ("u_core/n12" for the scopes u_core and n12).
+  struct Level {
+    const cdm::Netlist* netlist = nullptr;  // null: outside the design
+    std::string pending;                    // scope names not matched yet, joined by "/"
+    // A leaf cell (a library cell, or a cell whose reference did not
+    // resolve) or a scope inside one: its variables are pins, which the
+    // nets already cover.
+    bool leaf = false;
+  };
+  Level Enter(const std::string& name) const {
+    Level level;
+    if (!InScope() || scopes_.size() < Depth()) return level;
+    if (scopes_.size() == Depth()) {  // the design's own scope
+      level.netlist = design_.GetNetlist();
+      return level;
+    }
+    const Level& above = levels_.back();
+    if (!above.netlist || above.leaf) {
+      level.leaf = above.leaf;
+      return level;
+    }
+    const std::string local = above.pending.empty() ? name : above.pending + "/" + name;
+    const cdm::Cell* cell = above.netlist->FindCell(local);
+    if (!cell) {
+      level.netlist = above.netlist;
+      level.pending = local;
+    } else if (cell->GetRefDesign()) {
+      level.netlist = cell->GetChildNetlist();
+    } else {
+      level.leaf = true;
+    }
+    return level;
   }
   size_t Depth() const { return scope_.empty() ? 1 : scope_.size(); }
   bool InScope() const {
@@ -195,7 +220,7 @@ class VcdParser {
       return Fail(line, "identifier '" + std::string(tokens[2]) + "' has width " +
                             std::to_string(known->second) + ", and here " + width_text);
     if (tokens[0] == "real" || tokens[0] == "realtime" || tokens[0] == "event" ||
-        tokens[0] == "parameter" || !InScope() || (!leaf_.empty() && leaf_.back()))
+        tokens[0] == "parameter" || !InScope() || (!levels_.empty() && levels_.back().leaf))
       return true;
     std::string base(tokens[3]);
     std::string range = tokens.size() == 5 ? std::string(tokens[4]) : std::string();
@@ -219,22 +244,24 @@ class VcdParser {
       lsb = colon == std::string::npos ? msb : std::atol(range.substr(colon + 1).c_str());
       indexed = true;
     }
-    std::string prefix;
-    for (size_t i = Depth(); i < scopes_.size(); ++i) prefix += scopes_[i] + "/";
-    // The scope's netlist is found once for all the bits: a scope the design
-    // lacks leaves every bit missing, without a look-up of each (or a slot:
-    // the value changes of the identifier have nothing to do there).
-    const cdm::Netlist* netlist = design_.GetNetlist();
-    if (!prefix.empty()) {
-      const cdm::Cell* cell = cdm::FindCellByPath(&design_, prefix.substr(0, prefix.size() - 1));
-      netlist = cell ? cell->GetChildNetlist() : nullptr;
-    }
+    // The scope path below the design, for messages only.
+    const auto path = [this] {
+      std::string prefix;
+      for (size_t i = Depth(); i < scopes_.size(); ++i) prefix += scopes_[i] + "/";
+      return prefix;
+    };
+    // The scope's netlist is known once for all the bits: a scope the
+    // design lacks leaves every bit missing, without a look-up of each (or
+    // a slot: the value changes of the identifier have nothing to do there).
+    const Level* level = levels_.empty() ? nullptr : &levels_.back();
+    const cdm::Netlist* netlist = level ? level->netlist : design_.GetNetlist();
+    const std::string local_prefix = level && !level->pending.empty() ? level->pending + "/" : "";
     const auto bit_name = [&](long k) {  // bit k from the left of a value
       const long index = msb >= lsb ? msb - k : msb + k;
       return base + (indexed ? "[" + std::to_string(index) + "]" : std::string());
     };
     if (!netlist) {
-      if (missing_ == 0) first_missing_ = prefix + bit_name(0);
+      if (missing_ == 0) first_missing_ = path() + bit_name(0);
       missing_ += static_cast<size_t>(width);
       return true;
     }
@@ -246,9 +273,9 @@ class VcdParser {
                             std::to_string(kMaxLookedUp) + " bits in all");
     for (long k = 0; k < width; ++k) {
       const std::string name = bit_name(k);
-      const cdm::Net* net = netlist->FindNet(name);
+      const cdm::Net* net = netlist->FindNet(local_prefix + name);
       if (!net || net->FlatNetId() == 0) {
-        if (missing_++ == 0) first_missing_ = prefix + name;
+        if (missing_++ == 0) first_missing_ = path() + name;
         continue;
       }
       tracked.push_back(Tracked{static_cast<uint32_t>(k), static_cast<uint32_t>(bits_.size())});
@@ -337,7 +364,7 @@ class VcdParser {
   const cdm::Design& design_;
   std::vector<std::string> scope_;
   std::vector<std::string> scopes_;  // where the definitions are
-  std::vector<bool> leaf_;           // per open scope: a leaf cell's
+  std::vector<Level> levels_;        // per open scope
   size_t pos_ = 0;
   int line_ = 1;
   std::string error_;

@@ -218,6 +218,32 @@ TEST_F(ActivityFileTest, VcdVariablesOfAScopeTheDesignLacksAreMissing) {
   ExpectFigures(result, "b", 5e7, 0.5);
 }
 
+// Scopes nested thousands deep are found a level at a time (each was once
+// looked up by its whole path, in time that grew with the square of the
+// depth): the variables inside are missing, and the scopes around them are
+// found as before, a leaf cell's passed over.
+TEST_F(ActivityFileTest, VcdScopesNestedThousandsDeep) {
+  std::string text = "$timescale 1ns $end\n$scope module tb $end\n";
+  std::string path;
+  for (int i = 0; i < 3000; ++i) {
+    text += "$scope module m" + std::to_string(i) + " $end\n";
+    path += "m" + std::to_string(i) + "/";
+  }
+  text += "$var wire 1 ! deep $end\n";
+  for (int i = 0; i < 3000; ++i) text += "$upscope $end\n";
+  text +=
+      "$scope module s1 $end\n$var wire 1 # o $end\n$scope module u $end\n"
+      "$var wire 1 $ Z $end\n$upscope $end\n$upscope $end\n"
+      "$upscope $end\n$enddefinitions $end\n#0\n0!\n0#\n0$\n#10\n1#\n#20\n";
+  ActivityFileResult result;
+  std::string error;
+  ASSERT_TRUE(power::ReadVcd("t.vcd", text, *design_, "tb", result, error)) << error;
+  EXPECT_EQ(result.missing, 1u);
+  EXPECT_EQ(result.first_missing, path + "deep");
+  ASSERT_EQ(result.nets.size(), 1u);  // s1/u is a library cell: its Z is a pin
+  ExpectFigures(result, "s1/o", 5e7, 0.5);
+}
+
 TEST_F(ActivityFileTest, VcdRefusalsNameFileAndLine) {
   const std::string head =
       "$timescale 1ns $end\n$scope module tb $end\n$var wire 1 ! b $end\n$upscope $end\n"
