@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <type_traits>
 
 namespace io {
 
@@ -183,6 +184,13 @@ bool Gunzip(std::string_view packed, uint64_t limit, bool stop_at_nul, Buffer& t
   return true;
 }
 
+bool Damaged(const TextBuffer& text) {
+  return text.Damaged();
+}
+bool Damaged(const std::string&) {
+  return false;
+}
+
 // The line (from 1) of the first NUL byte of `text`, 0 when there is none.
 uint64_t NulLine(std::string_view text) {
   const size_t at = text.find('\0');
@@ -267,8 +275,14 @@ bool Load(const std::string& path, Buffer& text, std::string& error, const LoadO
 
   Buffer raw;
   std::string what;
-  if (!ReadRaw(file.fd(), regular, size, limit, options.text_only, raw, what) ||
-      !file.Close(what)) {
+  bool mapped = false;
+  if constexpr (std::is_same_v<Buffer, TextBuffer>)
+    mapped = options.map_file && regular && raw.MapFile(file.fd(), static_cast<size_t>(size));
+  if (!mapped && !ReadRaw(file.fd(), regular, size, limit, options.text_only, raw, what)) {
+    error = cannot_read + what;
+    return false;
+  }
+  if (!file.Close(what)) {
     error = cannot_read + what;
     return false;
   }
@@ -277,7 +291,14 @@ bool Load(const std::string& path, Buffer& text, std::string& error, const LoadO
     return false;
   }
   if (IsGzip(raw.data(), raw.size())) {
-    if (!Gunzip(std::string_view(raw.data(), raw.size()), limit, options.text_only, text, what)) {
+    const bool unpacked =
+        Gunzip(std::string_view(raw.data(), raw.size()), limit, options.text_only, text, what);
+    if (Damaged(raw)) {
+      text.clear();
+      error = cannot_read + kDamaged;
+      return false;
+    }
+    if (!unpacked) {
       error = cannot_read + what;
       return false;
     }
@@ -290,7 +311,13 @@ bool Load(const std::string& path, Buffer& text, std::string& error, const LoadO
     text = std::move(raw);
   }
   if (options.text_only) {
-    if (const uint64_t line = NulLine(std::string_view(text.data(), text.size()))) {
+    const uint64_t line = NulLine(std::string_view(text.data(), text.size()));
+    if (line && Damaged(text)) {
+      text.clear();
+      error = cannot_read + kDamaged;
+      return false;
+    }
+    if (line) {
       text.clear();
       error = path + ":" + std::to_string(line) + ": a NUL byte: this is not a text file";
       return false;

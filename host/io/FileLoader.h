@@ -19,6 +19,10 @@
 
 namespace io {
 
+// Why a mapped file's text is refused when its buffer is Damaged().
+constexpr const char* kDamaged =
+    "it shrank, or could not be read, while it was read (its text is not complete)";
+
 // The most bytes of text (after decompression) one file may hold, unless the
 // environment variable KELVO_MAX_INPUT_BYTES says otherwise.
 constexpr uint64_t kDefaultMaxInputBytes = uint64_t{4} << 30;
@@ -28,6 +32,10 @@ struct LoadOptions {
   uint64_t max_bytes = 0;
   // Refuse a NUL byte, which no text format holds.
   bool text_only = true;
+  // A regular file is mapped instead of read into a TextBuffer, when the
+  // text lives only while it is read (not kept, as Liberty keeps its own):
+  // the caller must then ask the buffer whether it is Damaged() once read.
+  bool map_file = false;
 };
 
 // The input limit in force: KELVO_MAX_INPUT_BYTES when set (a number of

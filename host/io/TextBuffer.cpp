@@ -2,8 +2,11 @@
 
 #include <sys/mman.h>
 
+#include <cstring>
 #include <new>
 #include <utility>
+
+#include "io/BusErrorGuard.h"
 
 namespace io {
 
@@ -24,7 +27,8 @@ TextBuffer::~TextBuffer() {
 TextBuffer::TextBuffer(TextBuffer&& other) noexcept
     : data_(std::exchange(other.data_, nullptr)),
       size_(std::exchange(other.size_, 0)),
-      capacity_(std::exchange(other.capacity_, 0)) {}
+      capacity_(std::exchange(other.capacity_, 0)),
+      guard_(std::exchange(other.guard_, -1)) {}
 
 TextBuffer& TextBuffer::operator=(TextBuffer&& other) noexcept {
   if (this != &other) {
@@ -32,6 +36,7 @@ TextBuffer& TextBuffer::operator=(TextBuffer&& other) noexcept {
     data_ = std::exchange(other.data_, nullptr);
     size_ = std::exchange(other.size_, 0);
     capacity_ = std::exchange(other.capacity_, 0);
+    guard_ = std::exchange(other.guard_, -1);
   }
   return *this;
 }
@@ -39,6 +44,14 @@ TextBuffer& TextBuffer::operator=(TextBuffer&& other) noexcept {
 void TextBuffer::resize(size_t size) {
   if (size <= capacity_) {
     size_ = size;
+    return;
+  }
+  if (guard_ >= 0) {
+    // A mapped file grows into pages of its own.
+    TextBuffer copy;
+    copy.resize(size);
+    std::memcpy(copy.data_, data_, size_);
+    *this = std::move(copy);
     return;
   }
   const size_t capacity = RoundUp(size);
@@ -55,9 +68,35 @@ void TextBuffer::resize(size_t size) {
 
 void TextBuffer::clear() {
   if (data_) ::munmap(data_, capacity_);
+  BusErrorGuard::Unregister(guard_);
   data_ = nullptr;
   size_ = 0;
   capacity_ = 0;
+  guard_ = -1;
+}
+
+bool TextBuffer::MapFile(int fd, size_t size) {
+  clear();
+  if (size == 0) return false;
+  // Populated at once: the file's pages are in the page cache, or read in
+  // now in large requests, instead of one fault at a time while parsing.
+  // Read-only: a writable private mapping would be populated by copying
+  // every page.
+  void* pages = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE | MAP_POPULATE, fd, 0);
+  if (pages == MAP_FAILED) return false;
+  const int guard = BusErrorGuard::Register(pages, size);
+  if (guard < 0) {
+    ::munmap(pages, size);
+    return false;
+  }
+  data_ = static_cast<char*>(pages);
+  size_ = capacity_ = size;
+  guard_ = guard;
+  return true;
+}
+
+bool TextBuffer::Damaged() const {
+  return BusErrorGuard::Damaged(guard_);
 }
 
 }  // namespace io

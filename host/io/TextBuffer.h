@@ -1,7 +1,8 @@
 // The text of an input file in memory of its own: anonymous pages that the
 // kernel may back with huge pages, so that a file of hundreds of megabytes
 // costs a few hundred page faults instead of one per 4 KiB. It grows in
-// place (the pages are remapped, not copied).
+// place (the pages are remapped, not copied). Or the file itself, mapped:
+// no copy and no fresh memory, for text that lives only while it is read.
 #pragma once
 
 #include <cstddef>
@@ -31,10 +32,20 @@ class TextBuffer {
   // Empties the buffer and gives its memory back.
   void clear();
 
+  // Replaces the contents with the `size` bytes of the open regular file
+  // `fd`, mapped read-only: the text is not to be written (it may be grown,
+  // which copies it). False, the buffer empty, when the file cannot be
+  // mapped; then it is to be read.
+  bool MapFile(int fd, size_t size);
+  // Whether some of a mapped file could not be read (it shrank, or a page
+  // of it failed): those bytes read as zeros, and the text is not the file.
+  bool Damaged() const;
+
  private:
   char* data_ = nullptr;
   size_t size_ = 0;
   size_t capacity_ = 0;
+  int guard_ = -1;  // the BusErrorGuard slot of a mapped file; -1: anonymous pages
 };
 
 }  // namespace io

@@ -5,7 +5,9 @@
 namespace verilog {
 
 bool ReadSourceFile(const std::string& path, io::TextBuffer& text, std::string& error) {
-  return io::LoadFile(path, text, error);
+  io::LoadOptions options;
+  options.map_file = true;  // the text goes once the netlist is read
+  return io::LoadFile(path, text, error, options);
 }
 
 }  // namespace verilog

@@ -8,8 +8,9 @@
 
 namespace verilog {
 
-// Reads `path` into `text`. False with `error` set when the file cannot be
-// opened or read, or its compressed stream is damaged.
+// Reads `path` into `text`: a plain regular file is mapped, so the caller
+// asks text.Damaged() once it has read the text. False with `error` set when
+// the file cannot be opened or read, or its compressed stream is damaged.
 bool ReadSourceFile(const std::string& path, io::TextBuffer& text, std::string& error);
 
 }  // namespace verilog

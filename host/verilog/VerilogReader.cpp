@@ -3,6 +3,7 @@
 #include <new>
 #include <thread>
 
+#include "io/FileLoader.h"
 #include "msg/SafeText.h"
 #include "verilog/NetlistBuilder.h"
 #include "verilog/ParseStatements.h"
@@ -55,7 +56,13 @@ bool ReadVerilogFile(cdm::Root* root, const std::string& path, std::vector<std::
     {
       io::TextBuffer text;
       if (!ReadSourceFile(path, text, error)) return false;
-      if (!Parse(text.view(), path, builder, ParseThreads::kAuto, error)) return false;
+      const bool parsed = Parse(text.view(), path, builder, ParseThreads::kAuto, error);
+      // A file that shrank under the mapping reads as zeros from there on.
+      if (text.Damaged()) {
+        error = "cannot read '" + path + "': " + io::kDamaged;
+        return false;
+      }
+      if (!parsed) return false;
     }  // the text goes before the definitions are made
     return Commit(builder, path, modules, error);
   } catch (const std::bad_alloc&) {

@@ -3,7 +3,9 @@
 // the rest, each refusal naming the file.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <zlib.h>
 
@@ -14,6 +16,7 @@
 #include <thread>
 
 #include "io/FileLoader.h"
+#include "io/TextBuffer.h"
 
 namespace {
 
@@ -65,6 +68,13 @@ Loaded Load(const std::string& path, uint64_t max_bytes = 0, bool read_twice = t
     EXPECT_EQ(io::LoadFile(path, buffer, error, options), loaded.ok);
     EXPECT_EQ(error, loaded.error);
     EXPECT_TRUE(buffer.view() == loaded.text) << "the text buffer holds other text";
+    io::LoadOptions mapping = options;
+    mapping.map_file = true;
+    io::TextBuffer mapped;
+    EXPECT_EQ(io::LoadFile(path, mapped, error, mapping), loaded.ok);
+    EXPECT_EQ(error, loaded.error);
+    EXPECT_TRUE(mapped.view() == loaded.text) << "the mapped text differs";
+    EXPECT_FALSE(mapped.Damaged());
   }
   return loaded;
 }
@@ -300,6 +310,49 @@ TEST(FileLoader, TheLimitComesFromTheEnvironment) {
   EXPECT_EQ(error,
             "KELVO_MAX_INPUT_BYTES is 'lots', expected a number of bytes such as 500000000 or 2G");
   unsetenv("KELVO_MAX_INPUT_BYTES");
+}
+
+// A mapped file cut short while it is read: the rest reads as zeros, the
+// buffer says so, and the process goes on. A bus error outside a mapped
+// text still ends the process, through whatever handler was there before.
+TEST(FileLoader, AMappedFileThatShrinksReadsAsZerosAndIsDamaged) {
+  const std::string path = TempPath("shrinks");
+  const std::string text(3 << 20, 'w');  // pages past the first to cut away
+  WriteBytes(path, text);
+  const int fd = ::open(path.c_str(), O_RDWR);
+  ASSERT_GE(fd, 0);
+  io::TextBuffer buffer;
+  ASSERT_TRUE(buffer.MapFile(fd, text.size()));
+  EXPECT_EQ(buffer.data()[text.size() - 1], 'w');
+  EXPECT_FALSE(buffer.Damaged());
+  ASSERT_EQ(::ftruncate(fd, 4096), 0);
+  EXPECT_EQ(buffer.data()[4095], 'w');
+  EXPECT_EQ(buffer.data()[text.size() - 1], '\0');
+  EXPECT_EQ(buffer.data()[1 << 20], '\0');
+  EXPECT_TRUE(buffer.Damaged());
+  buffer.clear();
+  EXPECT_FALSE(buffer.Damaged());
+
+  // Mapped again, whole: the damage of the first mapping is not carried.
+  WriteBytes(path, text);
+  ASSERT_TRUE(buffer.MapFile(fd, text.size()));
+  EXPECT_EQ(buffer.data()[text.size() - 1], 'w');
+  EXPECT_FALSE(buffer.Damaged());
+  buffer.clear();
+
+  EXPECT_EXIT(
+      {
+        void* pages = ::mmap(nullptr, text.size(), PROT_READ, MAP_SHARED, fd, 0);
+        if (pages == MAP_FAILED || ::ftruncate(fd, 0) != 0) std::exit(0);
+        volatile char c = static_cast<const char*>(pages)[text.size() - 1];
+        (void)c;
+        std::exit(0);
+      },
+      // Killed by the signal, or ended by a sanitizer's own handler: never
+      // the exit(0) of an access that was let through.
+      [](int status) { return !(WIFEXITED(status) && WEXITSTATUS(status) == 0); }, "");
+  ::close(fd);
+  std::remove(path.c_str());
 }
 
 }  // namespace
