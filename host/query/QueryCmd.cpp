@@ -88,6 +88,8 @@ int QueryCmd::exec() {
   }
   std::string filter_text;
   if (getOptionValue("filter", value)) filter_text = boost::any_cast<std::string>(value);
+  // A blank filter keeps everything, as an empty one does.
+  if (filter_text.find_first_not_of(" \t\r\n") == std::string::npos) filter_text.clear();
   FilterExpr filter(filter_text, options);
   if (!filter_text.empty() && !filter.Valid()) {
     SetTclError(name() + ": " + filter.Error());
@@ -127,14 +129,20 @@ int QueryCmd::exec() {
     }
   } else {
     const bool all = patterns.empty();
-    if (all) patterns.push_back(AllPattern());
+    // Without patterns every object is found: the pattern that stands for
+    // them is a glob, also under -regexp.
+    FindOptions find_options = options;
+    if (all) {
+      patterns.push_back(AllPattern());
+      find_options.regexp = false;
+    }
     for (const std::string& pattern : patterns) {
       const size_t before = found.size();
       // Hierarchical names may be written with set_hierarchy_separator's
       // character; regular expressions are taken as written.
-      const bool translate = shape_.hierarchical && !options.regexp;
-      if (!Find(design, translate ? WithDatabaseSeparator(pattern, separator) : pattern, options,
-                found, error)) {
+      const bool translate = shape_.hierarchical && !find_options.regexp;
+      if (!Find(design, translate ? WithDatabaseSeparator(pattern, separator) : pattern,
+                find_options, found, error)) {
         SetTclError(name() + ": " + error);
         return 1;
       }

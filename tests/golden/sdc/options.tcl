@@ -63,3 +63,6 @@ puts "get_libs: [get_libs -regexp {sdc_.*}] / [get_libs -nocase SDC*] / <[get_li
 puts "get_pins: [get_pins -regexp {r1/(D|Q)}] / [get_pins -nocase R2/q] / <[get_pins -quiet r9/*]>"
 puts "get_nets: [get_nets -regexp {w[0-9]}] / [get_nets -nocase W1] / <[get_nets -filter {is_constant}]>"
 puts "get_clocks: [get_clocks -regexp {(v|s).*}] / [get_clocks -nocase CLK]"
+puts "no patterns under -regexp: [get_ports -regexp] / [get_clocks -regexp -filter {is_virtual}]"
+puts "-regexp and -filter, no patterns: [get_cells -regexp -filter {ref_name =~ {D.*}}]"
+puts "a blank filter keeps all: [get_ports -filter { }]"
