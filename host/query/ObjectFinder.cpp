@@ -139,12 +139,17 @@ bool FindNets(const cdm::Design* design, const std::string& pattern, const FindO
 bool FindPins(const cdm::Design* design, const std::string& pattern, const FindOptions& options,
               std::vector<ObjectRef>& found, std::string& error) {
   if (!design) return true;
+  // A pin's name is its cell's and its own, "u1/A". A pattern without "/"
+  // names pins only under -hierarchical: those of that name on every cell
+  // at every level ("get_pins -hierarchical *" is all of them).
   const size_t slash = pattern.rfind('/');
-  if (slash == std::string::npos) return true;
-  NameMatcher pin_matcher(pattern.substr(slash + 1), options);
+  if (slash == std::string::npos && !options.hierarchical) return true;
+  const std::string cell_pattern = slash == std::string::npos ? "*" : pattern.substr(0, slash);
+  NameMatcher pin_matcher(slash == std::string::npos ? pattern : pattern.substr(slash + 1),
+                          options);
   if (Invalid(pin_matcher, error)) return false;
   std::vector<ObjectRef> cells;
-  if (!FindCells(design, pattern.substr(0, slash), options, cells, error)) return false;
+  if (!FindCells(design, cell_pattern, options, cells, error)) return false;
   for (const ObjectRef& ref : cells) {
     auto* cell = static_cast<cdm::Cell*>(ref.object);
     if (pin_matcher.IsLiteral()) {

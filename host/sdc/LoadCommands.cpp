@@ -1,5 +1,6 @@
 // set_load, set_port_fanout_number and set_fanout_load.
 #include <cstdio>
+#include <utility>
 
 #include "cmdlib/HostCommands.h"
 #include "hostapi/cdm/Net.h"
@@ -40,9 +41,13 @@ class SetLoadCmd : public SdcCommand {
       msg::HostMsg(SET_LOAD_001, {name(), shown}, SdcSource::Where());
     }
     const bool wire = Has("wire_load"), pin = Has("pin_load") || !wire;
+    bool told = false;  // of -subtract_pin_load on a port, once a command
     for (const query::ObjectRef& ref : objects) {
       if (ref.kind == K::kPort) {
         auto* port = static_cast<cdm::Port*>(ref.object);
+        if (Has("subtract_pin_load") && !std::exchange(told, true))
+          msg::HostMsg(SDC_006, {name() + ": -subtract_pin_load on port '" + port->Name() + "'"},
+                       SdcSource::Where());
         if (pin) store.SetPortLoad(port, Edges(), Which(), false, farads);
         if (wire) store.SetPortLoad(port, Edges(), Which(), true, farads);
         continue;

@@ -18,3 +18,4 @@ set_driving_cell -lib_cell INV -library sdc_small -pin Z -from_pin A -multiply_b
 set_driving_cell -lib_cell AND2 -from_pin B -min -fall {data[0]}
 puts "fanout_load of out1: [get_attribute [get_ports out1] fanout_load], of out2: [get_attribute [get_ports out2] fanout_load]"
 show_sdc
+set_load -subtract_pin_load 0.05 [get_ports {out1 out2}]
