@@ -14,21 +14,14 @@
 #include <type_traits>
 #include <utility>
 
+#include "io/Pages.h"
+
 namespace cdm {
 
-// Asks for huge pages over the whole 2 MiB pages inside [data, data+bytes).
-void AdviseHugePages(void* data, size_t bytes);
-
-// Arrays of this many bytes or more live in pages of their own.
+// Arrays of this many bytes or more live in pages of their own (whole
+// pages, not whole huge pages: the rest of a huge page past an array's end
+// would be resident as soon as its last element is written).
 constexpr size_t kPagedBytes = size_t{4} << 20;
-// The bytes mapped for an array of `bytes`: whole pages.
-size_t PagedBytes(size_t bytes);
-// Fresh zeroed pages of `bytes` (a PagedBytes figure), with huge pages
-// asked for; the same pages grown to `bytes`, moved if need be; given back.
-// The first two throw std::bad_alloc when the memory cannot be had.
-void* MapPages(size_t bytes);
-void* RemapPages(void* data, size_t old_bytes, size_t bytes);
-void UnmapPages(void* data, size_t bytes);
 
 template <class T>
 class PodArray {
@@ -114,19 +107,19 @@ class PodArray {
   static bool Paged(size_t capacity) { return capacity >= kPagedBytes / sizeof(T); }
   void Release() {
     if (Paged(capacity_))
-      UnmapPages(data_, PagedBytes(capacity_ * sizeof(T)));
+      io::UnmapPages(data_, io::WholePages(capacity_ * sizeof(T)));
     else
       std::free(data_);
   }
   void Reallocate(size_t count) {
     const size_t kept = (size_ < count ? size_ : count) * sizeof(T);
     if (Paged(count)) {
-      const size_t bytes = PagedBytes(count * sizeof(T));
+      const size_t bytes = io::WholePages(count * sizeof(T));
       void* pages;
       if (Paged(capacity_)) {
-        pages = RemapPages(data_, PagedBytes(capacity_ * sizeof(T)), bytes);
+        pages = io::RemapPages(data_, io::WholePages(capacity_ * sizeof(T)), bytes);
       } else {
-        pages = MapPages(bytes);
+        pages = io::MapPages(bytes);
         if (kept) std::memcpy(pages, data_, kept);
         std::free(data_);
       }
@@ -139,7 +132,7 @@ class PodArray {
       grown = std::malloc(count * sizeof(T));
       if (!grown) throw std::bad_alloc();
       if (kept) std::memcpy(grown, data_, kept);
-      UnmapPages(data_, PagedBytes(capacity_ * sizeof(T)));
+      io::UnmapPages(data_, io::WholePages(capacity_ * sizeof(T)));
     } else {
       grown = std::realloc(data_, count * sizeof(T));
       if (!grown) throw std::bad_alloc();
@@ -189,7 +182,7 @@ class ObjectArray {
     if (!capacity) return;
     void* raw = std::malloc(capacity * sizeof(T));
     if (!raw) throw std::bad_alloc();
-    AdviseHugePages(raw, capacity * sizeof(T));
+    io::AdviseHugePages(raw, capacity * sizeof(T));
     items_ = static_cast<T*>(raw);
     capacity_ = capacity;
   }

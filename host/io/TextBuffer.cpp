@@ -3,10 +3,10 @@
 #include <sys/mman.h>
 
 #include <cstring>
-#include <new>
 #include <utility>
 
 #include "io/BusErrorGuard.h"
+#include "io/Pages.h"
 
 namespace io {
 
@@ -55,19 +55,14 @@ void TextBuffer::resize(size_t size) {
     return;
   }
   const size_t capacity = RoundUp(size);
-  void* pages =
-      data_ ? ::mremap(data_, capacity_, capacity, MREMAP_MAYMOVE)
-            : ::mmap(nullptr, capacity, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-  if (pages == MAP_FAILED) throw std::bad_alloc();
-  // Advice only: without huge pages the text works the same, slower.
-  ::madvise(pages, capacity, MADV_HUGEPAGE);
+  void* pages = data_ ? RemapPages(data_, capacity_, capacity) : MapPages(capacity);
   data_ = static_cast<char*>(pages);
   capacity_ = capacity;
   size_ = size;
 }
 
 void TextBuffer::clear() {
-  if (data_) ::munmap(data_, capacity_);
+  UnmapPages(data_, capacity_);
   BusErrorGuard::Unregister(guard_);
   data_ = nullptr;
   size_ = 0;
