@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "db/Netlist.h"
-#include "db/PathLookup.h"
 #include "hostapi/cdm/Cell.h"
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Net.h"
@@ -212,13 +211,13 @@ class VcdParser {
     const long width = std::strtol(width_text.c_str(), &end, 10);
     if (width_text.empty() || *end != '\0' || width < 1 || width > 1 << 20)
       return Fail(line, "expected a width from 1 to 1048576, found '" + width_text + "'");
-    std::vector<Tracked>& tracked = ids_[tokens[2]];  // every id is known, tracked or not
-    // Variables on one identifier share its values, so they share a width;
-    // a value could not be laid over two widths at once.
-    const auto [known, first] = widths_.emplace(tokens[2], width);
-    if (!first && known->second != width)
+    // Every identifier is known, tracked or not. Variables on one share its
+    // values, so they share a width: a value could not be laid over two.
+    const auto [known, first] = ids_.try_emplace(tokens[2], Identifier{width, {}});
+    Identifier& id = known->second;
+    if (!first && id.width != width)
       return Fail(line, "identifier '" + std::string(tokens[2]) + "' has width " +
-                            std::to_string(known->second) + ", and here " + width_text);
+                            std::to_string(id.width) + ", and here " + width_text);
     if (tokens[0] == "real" || tokens[0] == "realtime" || tokens[0] == "event" ||
         tokens[0] == "parameter" || !InScope() || (!levels_.empty() && levels_.back().leaf))
       return true;
@@ -253,9 +252,10 @@ class VcdParser {
     // The scope's netlist is known once for all the bits: a scope the
     // design lacks leaves every bit missing, without a look-up of each (or
     // a slot: the value changes of the identifier have nothing to do there).
-    const Level* level = levels_.empty() ? nullptr : &levels_.back();
-    const cdm::Netlist* netlist = level ? level->netlist : design_.GetNetlist();
-    const std::string local_prefix = level && !level->pending.empty() ? level->pending + "/" : "";
+    // In the design's scope, so a scope is open.
+    const Level& level = levels_.back();
+    const cdm::Netlist* netlist = level.netlist;
+    const std::string local_prefix = level.pending.empty() ? "" : level.pending + "/";
     const auto bit_name = [&](long k) {  // bit k from the left of a value
       const long index = msb >= lsb ? msb - k : msb + k;
       return base + (indexed ? "[" + std::to_string(index) + "]" : std::string());
@@ -278,7 +278,7 @@ class VcdParser {
         if (missing_++ == 0) first_missing_ = path() + name;
         continue;
       }
-      tracked.push_back(Tracked{static_cast<uint32_t>(k), static_cast<uint32_t>(bits_.size())});
+      id.tracked.push_back(Tracked{static_cast<uint32_t>(k), static_cast<uint32_t>(bits_.size())});
       Bit bit;
       bit.net = net->GetFullName();
       bit.flat = net->FlatNetId();
@@ -339,11 +339,11 @@ class VcdParser {
     for (char v : value)
       if (v != '0' && v != '1' && v != 'x' && v != 'X' && v != 'z' && v != 'Z')
         return Fail(line, "expected a value of 0, 1, x and z, found '" + std::string(value) + "'");
-    const std::vector<Tracked>& tracked = found->second;
+    const std::vector<Tracked>& tracked = found->second.tracked;
     if (tracked.empty()) return true;
     // The value is widened on the left with 0, or with x or z when it
     // starts with one.
-    const size_t width = static_cast<size_t>(widths_.at(id));
+    const size_t width = static_cast<size_t>(found->second.width);
     const char fill = value[0] == '1' ? '0' : value[0];
     for (const Tracked& one : tracked) {
       const size_t k = one.position;
@@ -378,9 +378,13 @@ class VcdParser {
     uint32_t position;
     uint32_t bit;
   };
-  // Per identifier, its tracked bits only: a change costs what it touches.
-  std::unordered_map<std::string_view, std::vector<Tracked>> ids_;
-  std::unordered_map<std::string_view, long> widths_;
+  // An identifier: the width of its variables, and their tracked bits only
+  // (a change costs what it touches).
+  struct Identifier {
+    long width;
+    std::vector<Tracked> tracked;
+  };
+  std::unordered_map<std::string_view, Identifier> ids_;
   // Bits of the variables in the design's scopes looked up, of every
   // identifier.
   static constexpr size_t kMaxLookedUp = size_t{1} << 26;
