@@ -16,7 +16,22 @@
 
 namespace power {
 
-// A `when` or a pin function over the instance's pins.
+namespace {
+
+// The slot of each of `function`'s inputs among `ports`, -1 when not a pin.
+std::vector<int> SlotsOf(const cdm::LibBoolFuncExpr& function,
+                         const std::vector<const cdm::LibPort*>& ports) {
+  std::vector<int> slots;
+  for (const cdm::LibPort* port : function.GetFuncPorts()) {
+    auto found = std::find(ports.begin(), ports.end(), port);
+    slots.push_back(found == ports.end() ? -1 : static_cast<int>(found - ports.begin()));
+  }
+  return slots;
+}
+
+}  // namespace
+
+// A `when` over the instance's pins.
 struct CellPower::Condition {
   bool always = true;       // no function: always true
   std::vector<bool> table;  // over `slots`; empty past 16 inputs
@@ -26,10 +41,7 @@ struct CellPower::Condition {
     if (!function || function->IsEmpty()) return;
     always = false;
     table = function->TruthTable();
-    for (const cdm::LibPort* port : function->GetFuncPorts()) {
-      auto found = std::find(ports.begin(), ports.end(), port);
-      slots.push_back(found == ports.end() ? -1 : static_cast<int>(found - ports.begin()));
-    }
+    slots = SlotsOf(*function, ports);
   }
   // The probability of each input being 1 (one half for a port the
   // instance has no pin for).
@@ -70,10 +82,10 @@ struct CellPower::Arc {
 
 struct CellPower::Output {
   int slot = -1;
-  Condition function;
-  const cdm::LibBoolFuncExpr* expression = nullptr;
-  std::vector<int> related;  // distinct related slots of its groups
-  std::vector<Arc> arcs;     // per related
+  const cdm::LibBoolFuncExpr* expression = nullptr;  // null: no function
+  std::vector<int> slots;                            // of the function's inputs
+  std::vector<int> related;                          // distinct related slots of its groups
+  std::vector<Arc> arcs;                             // per related
   double vdd = 0.0;
 };
 
@@ -107,12 +119,19 @@ double SupplyOf(const cdm::LibCell* lib_cell, const cdm::LibPort* port) {
   return conditions ? conditions->voltage : 0.0;
 }
 
+// Node `index` past the inversions at its top.
+int UnderInversions(const cdm::LibBoolFuncExpr& function, int index) {
+  while (index >= 0 && function.Nodes()[index].op == cdm::LibBoolFuncExpr::Op::kNot)
+    index = function.Nodes()[index].left;
+  return index;
+}
+
 // The port an operand stands for through inversions, or null.
 const cdm::LibPort* Literal(const cdm::LibBoolFuncExpr& function, int index) {
-  using Op = cdm::LibBoolFuncExpr::Op;
-  while (index >= 0 && function.Nodes()[index].op == Op::kNot) index = function.Nodes()[index].left;
-  return index >= 0 && function.Nodes()[index].op == Op::kPort ? function.Nodes()[index].port
-                                                               : nullptr;
+  index = UnderInversions(function, index);
+  return index >= 0 && function.Nodes()[index].op == cdm::LibBoolFuncExpr::Op::kPort
+             ? function.Nodes()[index].port
+             : nullptr;
 }
 
 }  // namespace
@@ -132,7 +151,7 @@ CellPower::Arc CellPower::ArcOf(const cdm::LibBoolFuncExpr* function, const cdm:
     return arc;
   }
   // The last operator under the inversions of the whole ("!(A & B)").
-  while (function->Nodes()[root].op == Op::kNot) root = function->Nodes()[root].left;
+  root = UnderInversions(*function, root);
   const cdm::LibBoolFuncExpr::Node& top = function->Nodes()[root];
   if (top.op != Op::kAnd && top.op != Op::kOr && top.op != Op::kXor) return arc;
   for (int side = 0; side < 2; ++side) {
@@ -193,8 +212,11 @@ std::unique_ptr<CellPower::Plan> CellPower::MakePlan(const cdm::LibCell* lib_cel
     if (!port->IsOutput()) continue;
     Output output;
     output.slot = static_cast<int>(slot);
-    output.function.Set(port->GetFunction(), ports);
-    output.expression = port->GetFunction();
+    const cdm::LibBoolFuncExpr* function = port->GetFunction();
+    if (function && !function->IsEmpty()) {
+      output.expression = function;
+      output.slots = SlotsOf(*function, ports);
+    }
     for (const Group& group : plan->groups) {
       if (group.owner != output.slot || !group.on_output || group.related < 0) continue;
       if (std::find(output.related.begin(), output.related.end(), group.related) !=
@@ -288,9 +310,9 @@ cdm::PowerResult CellPower::Compute(const cdm::Cell* cell, std::vector<DrivenNet
   double internal = 0.0;
   for (const Output& output : plan.outputs) {
     const double out_rate = acts_[output.slot].rate;
-    if (output.expression && !output.function.always) {
+    if (output.expression) {
       inputs.clear();
-      for (int slot : output.function.slots)
+      for (int slot : output.slots)
         inputs.push_back(slot >= 0 ? Activity{acts_[slot].probability, acts_[slot].rate}
                                    : Activity{0.5, 0.0});
     }
