@@ -62,6 +62,14 @@ endmodule)",
     EXPECT_NEAR(*setting.probability, probability, 1e-9) << net;
   }
 
+  // A VCD text read over the design, which must succeed.
+  ActivityFileResult ReadVcdText(const std::string& text, const std::string& scope) {
+    ActivityFileResult result;
+    std::string error;
+    EXPECT_TRUE(power::ReadVcd("t.vcd", text, *design_, scope, result, error)) << error;
+    return result;
+  }
+
   cdm::Design* design_ = nullptr;
 };
 
@@ -181,9 +189,7 @@ b10 "
 )";
 
 TEST_F(ActivityFileTest, VcdCountsTransitionsBetweenZeroAndOneAndTimeAtOne) {
-  ActivityFileResult result;
-  std::string error;
-  ASSERT_TRUE(power::ReadVcd("t.vcd", kVcd, *design_, "tb/dut", result, error)) << error;
+  const ActivityFileResult result = ReadVcdText(kVcd, "tb/dut");
   // b: 0, 1 at 10, 0 at 30, 1 at 40: three transitions in 100 ns, 80 ns at 1.
   ExpectFigures(result, "b", 3e7, 0.8);
   // a: 00, 01 at 10, "1" (01 again) at 30, 10 at 40.
@@ -196,9 +202,7 @@ TEST_F(ActivityFileTest, VcdCountsTransitionsBetweenZeroAndOneAndTimeAtOne) {
   EXPECT_EQ(result.missing, 1u);
   EXPECT_EQ(result.first_missing, "nosuch");
   EXPECT_EQ(Find(result, "b").origin, power::ActivityOrigin::kVcd);
-  ActivityFileResult dotted;
-  ASSERT_TRUE(power::ReadVcd("t.vcd", kVcd, *design_, "tb.dut", dotted, error)) << error;
-  EXPECT_EQ(dotted.nets.size(), 4u);
+  EXPECT_EQ(ReadVcdText(kVcd, "tb.dut").nets.size(), 4u);
 }
 
 // A scope the design lacks: its variables' bits are all missing, counted
@@ -209,9 +213,7 @@ TEST_F(ActivityFileTest, VcdVariablesOfAScopeTheDesignLacksAreMissing) {
       "$timescale 1ns $end\n$scope module tb $end\n$scope module nosuchcell $end\n"
       "$var wire 1048576 ! w $end\n$upscope $end\n$var wire 1 # b $end\n$upscope $end\n"
       "$enddefinitions $end\n#0\nb1 !\n0#\n#10\nb0 !\n1#\n#20\n";
-  ActivityFileResult result;
-  std::string error;
-  ASSERT_TRUE(power::ReadVcd("t.vcd", text, *design_, "tb", result, error)) << error;
+  const ActivityFileResult result = ReadVcdText(text, "tb");
   EXPECT_EQ(result.missing, 1048576u);
   EXPECT_EQ(result.first_missing, "nosuchcell/w[1048575]");
   EXPECT_EQ(result.nets.size(), 1u);
@@ -235,9 +237,7 @@ TEST_F(ActivityFileTest, VcdScopesNestedThousandsDeep) {
       "$scope module s1 $end\n$var wire 1 # o $end\n$scope module u $end\n"
       "$var wire 1 $ Z $end\n$upscope $end\n$upscope $end\n"
       "$upscope $end\n$enddefinitions $end\n#0\n0!\n0#\n0$\n#10\n1#\n#20\n";
-  ActivityFileResult result;
-  std::string error;
-  ASSERT_TRUE(power::ReadVcd("t.vcd", text, *design_, "tb", result, error)) << error;
+  const ActivityFileResult result = ReadVcdText(text, "tb");
   EXPECT_EQ(result.missing, 1u);
   EXPECT_EQ(result.first_missing, path + "deep");
   ASSERT_EQ(result.nets.size(), 1u);  // s1/u is a library cell: its Z is a pin

@@ -61,6 +61,12 @@ class ActivityPropagationTest : public sdctest::SdcTest {
     EXPECT_NE(net, nullptr) << name;
     return store_->OfNet(net);
   }
+  // The net's rate (transitions per second) and probability of being 1.
+  void ExpectNet(const std::string& name, double rate, double probability) {
+    const NetActivity& activity = Net(name);
+    EXPECT_RATE(activity.rate, rate) << name;
+    EXPECT_NEAR(activity.probability, probability, 1e-9) << name;
+  }
 
   std::unique_ptr<sta::Timer> timer_;
   std::unique_ptr<power::ActivityStore> store_;
@@ -83,28 +89,21 @@ endmodule)",
 
   EXPECT_EQ(Net("a").origin, ActivityOrigin::kUser);
   // The clock: two toggles a period, 1 half the time.
-  EXPECT_RATE(Net("clk").rate, 2e8);
-  EXPECT_NEAR(Net("clk").probability, 0.5, 1e-9);
+  ExpectNet("clk", 2e8, 0.5);
   EXPECT_EQ(Net("clk").origin, ActivityOrigin::kClock);
   // AND: 0.5 * 0.2; 0.2 * 1e8 + 0.5 * 2e7.
-  EXPECT_NEAR(Net("n_and").probability, 0.1, 1e-9);
-  EXPECT_RATE(Net("n_and").rate, 3e7);
+  ExpectNet("n_and", 3e7, 0.1);
   EXPECT_EQ(Net("n_and").origin, ActivityOrigin::kPropagated);
   // OR: 1 - 0.5 * 0.6; 0.6 * 1e8 + 0.5 * 5e7.
-  EXPECT_NEAR(Net("n_or").probability, 0.7, 1e-9);
-  EXPECT_RATE(Net("n_or").rate, 8.5e7);
+  ExpectNet("n_or", 8.5e7, 0.7);
   // XOR: 0.1 * 0.3 + 0.9 * 0.7; each operand's density weighted by the
   // chance of its own term, A&!B and !A&B: 3e7 * 0.1 * 0.3 + 8.5e7 * 0.9 *
   // 0.7 (the engines' figure; the XOR's own density would be 1.15e8).
-  EXPECT_NEAR(Net("n_xor").probability, 0.66, 1e-9);
-  EXPECT_RATE(Net("n_xor").rate, 5.445e7);
-  EXPECT_NEAR(Net("n_inv").probability, 0.34, 1e-9);
-  EXPECT_RATE(Net("n_inv").rate, 5.445e7);
+  ExpectNet("n_xor", 5.445e7, 0.66);
+  ExpectNet("n_inv", 5.445e7, 0.34);
   // The register takes its data's figures, whatever its clock.
-  EXPECT_NEAR(Net("q").probability, 0.34, 1e-9);
-  EXPECT_RATE(Net("q").rate, 5.445e7);
-  EXPECT_NEAR(Net("qn").probability, 0.66, 1e-9);
-  EXPECT_RATE(Net("qn").rate, 5.445e7);
+  ExpectNet("q", 5.445e7, 0.34);
+  ExpectNet("qn", 5.445e7, 0.66);
 }
 
 TEST_F(ActivityPropagationTest, FunctionsWorkedOutAsWritten) {
@@ -120,15 +119,13 @@ endmodule)",
   // (A&B): 0.1, 1e7 x 0.25 + 2e7 x 0.4 = 1.05e7; OR-ed: 0.45 + 0.1 -
   // 0.045 and 1.95e7 x 0.9 + 1.05e7 x 0.55. (The function itself, an
   // XNOR: 0.55 and 3e7.)
-  EXPECT_NEAR(Net("x1").probability, 0.505, 1e-9);
-  EXPECT_RATE(Net("x1").rate, 2.3325e7);
+  ExpectNet("x1", 2.3325e7, 0.505);
   for (const char* net : {"c", "d", "e", "f"}) Annotate(net, 2e7, 0.5);
   // Each term 0.25 and 2e7; OR-ed left to right: 0.4375 and 3e7, then
   // 0.578125 and 3e7 x 0.75 + 2e7 x 0.5625 = 3.375e7, then 0.68359375 and
   // 3.375e7 x 0.75 + 2e7 x 0.421875 = 3.375e7. (The function itself:
   // 0.5625 and 3e7.)
-  EXPECT_NEAR(Net("x2").probability, 0.68359375, 1e-9);
-  EXPECT_RATE(Net("x2").rate, 3.375e7);
+  ExpectNet("x2", 3.375e7, 0.68359375);
 }
 
 TEST_F(ActivityPropagationTest, DefaultsClocksConstantsAndPartialSettings) {
@@ -200,8 +197,7 @@ endmodule)",
   // default (1e7, 0.5): (EN&D) 0.125 and 1e7 x 0.5 + 4e7 x 0.25 = 1.5e7;
   // (!EN&IQ) 0.375 and 1e7 x 0.5 + 1e7 x 0.75 = 1.25e7; OR-ed: 0.453125
   // and 1.5e7 x 0.625 + 1.25e7 x 0.875 = 2.03125e7.
-  EXPECT_RATE(Net("q").rate, 2.03125e7);
-  EXPECT_NEAR(Net("q").probability, 0.453125, 1e-9);
+  ExpectNet("q", 2.03125e7, 0.453125);
   // A combinational loop and a register feeding itself end within the bound.
   EXPECT_NE(capture.Take().find("Combinational loop cut"), std::string::npos);
   EXPECT_LE(store_->LastPasses(), 2 * power::ActivityPropagator::kMaxPasses);
@@ -229,20 +225,15 @@ endmodule)",
   // 1e7, and 0.5): nothing a seed reaches but the registers' data. Then
   // each state from its data: r1 from d, r4 from q1 straight (registers
   // in order), r2 and r3 from i1 and i2, which nothing had reached yet.
-  EXPECT_RATE(Net("q1").rate, 4e7);
-  EXPECT_NEAR(Net("q1").probability, 0.25, 1e-9);
-  EXPECT_RATE(Net("q4").rate, 4e7);
-  EXPECT_NEAR(Net("q4").probability, 0.25, 1e-9);
-  EXPECT_RATE(Net("q2").rate, 1e7);
-  EXPECT_NEAR(Net("q2").probability, 0.5, 1e-9);
+  ExpectNet("q1", 4e7, 0.25);
+  ExpectNet("q4", 4e7, 0.25);
+  ExpectNet("q2", 1e7, 0.5);
   EXPECT_RATE(Net("q").rate, 1e7);
   // Then the logic again from the register outputs that moved: i1, not i2.
-  EXPECT_RATE(Net("n1").rate, 4e7);
-  EXPECT_NEAR(Net("n1").probability, 0.75, 1e-9);
+  ExpectNet("n1", 4e7, 0.75);
   EXPECT_NEAR(Net("n2").probability, 0.5, 1e-9);
   // A loop nothing reaches keeps the default.
-  EXPECT_RATE(Net("n5").rate, 1e7);
-  EXPECT_NEAR(Net("n5").probability, 0.5, 1e-9);
+  ExpectNet("n5", 1e7, 0.5);
   // Passes: one that finds nothing to do, one for i1, one that finds
   // nothing moved.
   EXPECT_EQ(store_->LastPasses(), 3);
