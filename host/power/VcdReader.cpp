@@ -1,6 +1,9 @@
 #include "power/VcdReader.h"
 
+#include <climits>
+#include <cstdint>
 #include <cstdlib>
+#include <memory>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -11,6 +14,7 @@
 #include "hostapi/cdm/Design.h"
 #include "hostapi/cdm/Net.h"
 #include "msg/SafeText.h"
+#include "power/BusBits.h"
 
 namespace power {
 namespace {
@@ -241,6 +245,10 @@ class VcdParser {
       msb = std::atol(
           range.substr(1, colon == std::string::npos ? std::string::npos : colon - 1).c_str());
       lsb = colon == std::string::npos ? msb : std::atol(range.substr(colon + 1).c_str());
+      // Bounded as a simulator's indices are, so that an index of any bit
+      // is a sum without overflow.
+      if (msb < INT32_MIN || msb > INT32_MAX || lsb < INT32_MIN || lsb > INT32_MAX)
+        return Fail(line, "the range '" + range + "' has an index beyond 32 bits");
       indexed = true;
     }
     // The scope path below the design, for messages only.
@@ -255,7 +263,7 @@ class VcdParser {
     // In the design's scope, so a scope is open.
     const Level& level = levels_.back();
     const cdm::Netlist* netlist = level.netlist;
-    const std::string local_prefix = level.pending.empty() ? "" : level.pending + "/";
+    const std::string local = level.pending.empty() ? base : level.pending + "/" + base;
     const auto bit_name = [&](long k) {  // bit k from the left of a value
       const long index = msb >= lsb ? msb - k : msb + k;
       return base + (indexed ? "[" + std::to_string(index) + "]" : std::string());
@@ -266,25 +274,47 @@ class VcdParser {
       return true;
     }
     // An identifier may stand for many variables; their bits together are
-    // bounded, so that a few lines cannot ask for minutes of look-ups.
+    // bounded, so that a few lines cannot ask for gigabytes of slots.
     looked_up_ += static_cast<size_t>(width);
     if (looked_up_ > kMaxLookedUp)
       return Fail(line, "the variables of the design's scopes have more than " +
                             std::to_string(kMaxLookedUp) + " bits in all");
-    for (long k = 0; k < width; ++k) {
-      const std::string name = bit_name(k);
-      const cdm::Net* net = netlist->FindNet(local_prefix + name);
-      if (!net || net->FlatNetId() == 0) {
-        if (missing_++ == 0) first_missing_ = path() + name;
-        continue;
-      }
+    // The bits the netlist has, from the left; a vector's are found by its
+    // name at once, however wide it is declared.
+    long next = 0;  // the leftmost bit not met yet
+    const auto track = [&](long k, const cdm::Net* net) {
+      if (!net || net->FlatNetId() == 0) return;
+      if (k > next && missing_ == 0) first_missing_ = path() + bit_name(next);
+      missing_ += static_cast<size_t>(k - next);
+      next = k + 1;
       id.tracked.push_back(Tracked{static_cast<uint32_t>(k), static_cast<uint32_t>(bits_.size())});
       Bit bit;
       bit.net = net->GetFullName();
       bit.flat = net->FlatNetId();
       bits_.push_back(std::move(bit));
+    };
+    if (!indexed) {
+      track(0, netlist->FindNet(local));
+    } else {
+      const cdm::Span<cdm::Net> nets = netlist->Nets();
+      const int64_t low = msb >= lsb ? msb - (width - 1) : msb;
+      const auto [first, last] = BusesOf(*netlist).Find(local, low, low + (width - 1));
+      if (msb >= lsb) {
+        for (auto bit = last; bit != first; --bit) track(msb - bit[-1].index, &nets[bit[-1].net]);
+      } else {
+        for (auto bit = first; bit != last; ++bit) track(bit->index - msb, &nets[bit->net]);
+      }
     }
+    if (width > next && missing_ == 0) first_missing_ = path() + bit_name(next);
+    missing_ += static_cast<size_t>(width - next);
     return true;
+  }
+
+  // The vector bits of a netlist's definition, indexed when first asked.
+  const BusBits& BusesOf(const cdm::Netlist& netlist) {
+    std::unique_ptr<BusBits>& buses = buses_[netlist.Definition()];
+    if (!buses) buses = std::make_unique<BusBits>(*netlist.Definition());
+    return *buses;
   }
 
   bool Body() {
@@ -389,6 +419,7 @@ class VcdParser {
   // identifier.
   static constexpr size_t kMaxLookedUp = size_t{1} << 26;
   size_t looked_up_ = 0;
+  std::unordered_map<const cdm::Netlist*, std::unique_ptr<BusBits>> buses_;
   std::vector<Bit> bits_;
   size_t missing_ = 0;
   std::string first_missing_;

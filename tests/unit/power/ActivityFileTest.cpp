@@ -244,6 +244,35 @@ TEST_F(ActivityFileTest, VcdScopesNestedThousandsDeep) {
   ExpectFigures(result, "s1/o", 5e7, 0.5);
 }
 
+// A vector is matched with the bits the design has, whatever its declared
+// width and the direction of its range: the leftmost bit of a value is the
+// range's left index. Bits the design lacks are missing, the leftmost named.
+TEST_F(ActivityFileTest, VcdVectorsMeetTheDesignsBitsByIndex) {
+  const std::string head = "$timescale 1ns $end\n$scope module tb $end\n";
+  const std::string tail = "$upscope $end\n$enddefinitions $end\n";
+  // No range: a[1048575:0], a million bits of which the design has two.
+  ActivityFileResult result = ReadVcdText(
+      head + "$var wire 1048576 ! a $end\n" + tail + "#0\nb1 !\n#10\nb10 !\n#20\nb0 !\n#40\n",
+      "tb");
+  ExpectFigures(result, "a[0]", 2.5e7, 0.25);
+  ExpectFigures(result, "a[1]", 5e7, 0.25);
+  EXPECT_EQ(result.missing, 1048574u);
+  EXPECT_EQ(result.first_missing, "a[1048575]");
+  // An ascending range: a[0] is on the left.
+  result = ReadVcdText(
+      head + "$var wire 2 \" a [0:1] $end\n" + tail + "#0\nb01 \"\n#10\nb10 \"\n#40\n", "tb");
+  ExpectFigures(result, "a[0]", 2.5e7, 0.75);
+  ExpectFigures(result, "a[1]", 2.5e7, 0.25);
+  EXPECT_EQ(result.missing, 0u);
+  // A range beyond the design's: a[3] and a[2] are missing.
+  result = ReadVcdText(
+      head + "$var wire 3 # a [3:1] $end\n" + tail + "#0\nb001 #\n#10\nb000 #\n#40\n", "tb");
+  ASSERT_EQ(result.nets.size(), 1u);
+  ExpectFigures(result, "a[1]", 2.5e7, 0.25);
+  EXPECT_EQ(result.missing, 2u);
+  EXPECT_EQ(result.first_missing, "a[3]");
+}
+
 TEST_F(ActivityFileTest, VcdRefusalsNameFileAndLine) {
   const std::string head =
       "$timescale 1ns $end\n$scope module tb $end\n$var wire 1 ! b $end\n$upscope $end\n"
@@ -259,6 +288,8 @@ TEST_F(ActivityFileTest, VcdRefusalsNameFileAndLine) {
       {"$scope module tb $end\n$var wire 0 ! b $end\n", "t.vcd:2: expected a width from 1"},
       {"$scope module tb $end\n$var wire 2 ! b $end\n$var wire 84 ! c $end\n",
        "t.vcd:3: identifier '!' has width 2, and here 84"},
+      {"$scope module tb $end\n$var wire 2 ! b [4294967297:4294967296] $end\n",
+       "t.vcd:2: the range '[4294967297:4294967296]' has an index beyond 32 bits"},
       {"$timescale 1 parsec $end\n", "t.vcd:1: expected a timescale such as '1ps', found"},
       {"$upscope $end\n", "t.vcd:1: '$upscope' outside every scope"},
       {"$comment never closed\n", "t.vcd:1: '$comment' is not closed by '$end'"},
