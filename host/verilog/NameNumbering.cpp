@@ -9,10 +9,10 @@ namespace {
 // Calls `visit` on each name of `expr` (a plain, bit or part select), left
 // to right: the builder's order. As deep as the parser lets concatenations
 // nest.
-template <typename Visit>
-void ForEachName(Expr& expr, const Visit& visit) {
+template <typename E, typename Visit>
+void ForEachName(E& expr, const Visit& visit) {
   if (expr.kind == Expr::kConcat) {
-    for (Expr& item : expr.items) ForEachName(item, visit);
+    for (E& item : expr.items) ForEachName(item, visit);
   } else if (expr.kind == Expr::kName || expr.kind == Expr::kBitSelect ||
              expr.kind == Expr::kPartSelect) {
     visit(expr);
@@ -84,6 +84,18 @@ void NameNumbering::Grow() {
     slots_[i] = slot;
   }
   table_ = std::move(grown);
+}
+
+void NameNumbering::Prefetch(const DeclAst& decl) const {
+  for (std::string_view name : decl.names) __builtin_prefetch(&slots_[HashOf(name) & mask_]);
+}
+
+void NameNumbering::Prefetch(const ConnAst* conns, size_t count) const {
+  for (size_t i = 0; i < count; ++i) {
+    if (conns[i].empty) continue;
+    ForEachName(conns[i].expr,
+                [this](const Expr& name) { __builtin_prefetch(&slots_[HashOf(name) & mask_]); });
+  }
 }
 
 void NameNumbering::Number(DeclAst& decl) {

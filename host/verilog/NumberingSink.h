@@ -19,6 +19,8 @@ class NumberingSink : public StatementSink {
   bool Assign(AssignAst& assign) override;
   bool EndModule(uint32_t line) override { return next_.EndModule(line); }
   void Checkpoint(size_t offset, size_t total) override { next_.Checkpoint(offset, total); }
+  void LookAhead(const DeclAst& decl) override { numbering_.Prefetch(decl); }
+  void LookAhead(const ConnAst* conns, size_t count) override { numbering_.Prefetch(conns, count); }
   const std::string& Error() const override { return next_.Error(); }
   uint32_t ErrorLine() const override { return next_.ErrorLine(); }
 

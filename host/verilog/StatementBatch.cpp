@@ -64,9 +64,23 @@ bool StatementBatch::ReplayInstance(const InstanceEntry& entry, StatementSink& s
   return sink.Instance(instance_);
 }
 
+void StatementBatch::LookAhead(const Entry& entry, StatementSink& sink) const {
+  if (entry.kind == Kind::kDeclare) {
+    sink.LookAhead(declarations_[entry.index].decl);
+  } else if (entry.kind == Kind::kInstance) {
+    const InstanceEntry& instance = instances_[entry.index];
+    sink.LookAhead(conns_.data() + instance.first_conn, instance.conn_count);
+  }
+}
+
 bool StatementBatch::Replay(StatementSink& sink, uint32_t& line) {
   if (total_ > 0) sink.Checkpoint(offset_, total_);  // none before the first module item
-  for (const Entry& entry : order_) {
+  // Far enough ahead for the sink's fetches to arrive, near enough for
+  // them to stay in cache.
+  constexpr size_t kAhead = 8;
+  for (size_t i = 0; i < order_.size(); ++i) {
+    if (i + kAhead < order_.size()) LookAhead(order_[i + kAhead], sink);
+    const Entry& entry = order_[i];
     switch (entry.kind) {
       case Kind::kBeginModule:
         line = headers_[entry.index].line;

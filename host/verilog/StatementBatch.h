@@ -56,6 +56,7 @@ class StatementBatch {
   template <typename T>
   static T& Slot(std::vector<T>& list, size_t& used);
   bool ReplayInstance(const InstanceEntry& entry, StatementSink& sink);
+  void LookAhead(const Entry& entry, StatementSink& sink) const;
 
   std::vector<Entry> order_;
   std::vector<ModuleHeaderAst> headers_;

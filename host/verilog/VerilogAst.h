@@ -96,6 +96,11 @@ class StatementSink {
   virtual bool EndModule(uint32_t line) = 0;
   // Between statements: how far into the text the parser is.
   virtual void Checkpoint(size_t offset, size_t total) = 0;
+  // A hint, a few statements ahead: the names a declaration or an
+  // instance's connections will bring, so that a sink that looks them up
+  // can have its table fetched into cache while it works on others.
+  virtual void LookAhead(const DeclAst& /*decl*/) {}
+  virtual void LookAhead(const ConnAst* /*conns*/, size_t /*count*/) {}
 };
 
 }  // namespace verilog
