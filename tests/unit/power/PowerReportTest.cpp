@@ -3,11 +3,14 @@
 
 #include <cmath>
 #include <regex>
+#include <set>
 #include <string>
 
 #include "format/PowerReport.h"
 #include "hostapi/cdm/Cell.h"
+#include "hostapi/cdm/LibertyLib.h"
 #include "hostapi/cdm/Net.h"
+#include "hostapi/cdm/Root.h"
 #include "hostapi/cdm/StageType.h"
 #include "sdc/SdcStore.h"
 #include "support/CaptureResult.h"
@@ -179,8 +182,21 @@ TEST_F(PowerTables, NetsWithVddLoadProbabilityRateAndOrigin) {
   EXPECT_EQ(out.Take(), expected);
 }
 
-// The header reads the database's own root and constraint store.
-class PowerHeader : public sdctest::SdcTest {};
+// The header reads the database's own root and constraint store. The root
+// is shared by the binary's tests: the lines of libraries other tests read
+// into it are left out of the comparison, so that these pass in any order.
+class PowerHeader : public sdctest::SdcTest {
+ protected:
+  static std::string WithoutOtherLibraries(std::string text, const std::set<std::string>& own) {
+    for (const cdm::LibertyLib* lib : Root()->LibertyLibs()) {
+      if (own.count(lib->Name())) continue;
+      const std::string line = "    " + lib->Name() + " (File: ";
+      const size_t at = text.find(line);
+      if (at != std::string::npos) text.erase(at, text.find('\n', at) + 1 - at);
+    }
+    return text;
+  }
+};
 
 const char* kStars = "******************************************";
 
@@ -234,7 +250,7 @@ TEST_F(PowerHeader, GroupTableUnderTheHeader) {
   expected += "Total" + Blanks(12) + "4.000e-03" + Blanks(9) + "3.000e-03" + Blanks(10) +
               "1.000e-03" + Blanks(8) + "8.000e-03\n";
   expected += Dashes(105) + "\n";
-  EXPECT_EQ(text, expected);
+  EXPECT_EQ(WithoutOtherLibraries(text, {"timer_small"}), expected);
 }
 
 TEST_F(PowerHeader, ConditionsAndModelWhenSet) {
@@ -248,7 +264,7 @@ TEST_F(PowerHeader, ConditionsAndModelWhenSet) {
   PowerReport report;
   CaptureResult out;
   report.PrintHeaderInfo();
-  std::string text = out.Take();
+  const std::string text = WithoutOtherLibraries(out.Take(), {"timer_small", "conn_small"});
   Store().Design().wire_load[cdm::MinMax::max_->index()] = nullptr;
   Root()->SetDefaultLiberty(timer);
   EXPECT_NE(text.find("Library(s) Used:\n\n    timer_small (File: " + DataPath("timer_small.lib") +
