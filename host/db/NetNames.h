@@ -10,6 +10,7 @@ namespace cdm {
 
 class Design;
 class Net;
+class Netlist;
 
 // Calls `visit` with every net of the design's own netlist, the path of
 // its netlist ("" at the top, "u1/u2/" below) and its local name, then with
@@ -18,5 +19,7 @@ class Net;
 // constants are left out.
 using NetNameVisitor = std::function<void(Net* net, std::string_view path, std::string_view name)>;
 void ForEachNetName(const Design* design, bool deep, const NetNameVisitor& visit);
+// The same for one netlist: its named nets, then its merged-away names.
+void ForEachNetName(const Netlist& netlist, const NetNameVisitor& visit);
 
 }  // namespace cdm

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <tuple>
 
+#include "db/NetNames.h"
 #include "db/Netlist.h"
 
 namespace power {
@@ -33,17 +34,12 @@ bool Before(const BusBits::Bit& a, const BusBits::Bit& b) {
 }  // namespace
 
 BusBits::BusBits(const cdm::Netlist& netlist) {
-  Bit bit;
-  for (uint32_t i = 0; i < netlist.NamedNetCount(); ++i) {
-    if (!SplitBit(netlist.NetName(i), bit.base, bit.index)) continue;
-    bit.net = i;
+  cdm::ForEachNetName(netlist, [&](cdm::Net* net, std::string_view, std::string_view name) {
+    Bit bit;
+    if (!SplitBit(name, bit.base, bit.index)) return;
+    bit.net = netlist.IndexOf(net);
     bits_.push_back(bit);
-  }
-  for (const auto& [name, net] : netlist.Aliases()) {
-    if (!SplitBit(netlist.Names().View(name), bit.base, bit.index)) continue;
-    bit.net = net;
-    bits_.push_back(bit);
-  }
+  });
   std::sort(bits_.begin(), bits_.end(), Before);
 }
 

@@ -23,9 +23,8 @@ class BusBits {
     uint32_t net;  // index of the net in the netlist and its copies
   };
 
-  // The names are those `Netlist::FindNet` finds (the nets' and the
-  // aliases'), where the index is written as a bit's index is named: an
-  // optional '-', digits, no leading zero.
+  // The names are those `Netlist::FindNet` finds (cdm::ForEachNetName), where the index is written
+  // as a bit's index is named: an optional '-', digits, no leading zero.
   explicit BusBits(const cdm::Netlist& netlist);
 
   // The bits of `base` with an index from `low` to `high`, by index.
