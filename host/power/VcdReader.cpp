@@ -275,10 +275,10 @@ class VcdParser {
     }
     // An identifier may stand for many variables; their bits together are
     // bounded, so that a few lines cannot ask for gigabytes of slots.
-    looked_up_ += static_cast<size_t>(width);
-    if (looked_up_ > kMaxLookedUp)
+    declared_bits_ += static_cast<size_t>(width);
+    if (declared_bits_ > kMostDeclaredBits)
       return Fail(line, "the variables of the design's scopes have more than " +
-                            std::to_string(kMaxLookedUp) + " bits in all");
+                            std::to_string(kMostDeclaredBits) + " bits in all");
     // The bits the netlist has, from the left; a vector's are found by its
     // name at once, however wide it is declared.
     long next = 0;  // the leftmost bit not met yet
@@ -415,10 +415,10 @@ class VcdParser {
     std::vector<Tracked> tracked;
   };
   std::unordered_map<std::string_view, Identifier> ids_;
-  // Bits of the variables in the design's scopes looked up, of every
-  // identifier.
-  static constexpr size_t kMaxLookedUp = size_t{1} << 26;
-  size_t looked_up_ = 0;
+  // Bits declared by the variables in the design's scopes, of every
+  // identifier: the bound of their slots.
+  static constexpr size_t kMostDeclaredBits = size_t{1} << 26;
+  size_t declared_bits_ = 0;
   std::unordered_map<const cdm::Netlist*, std::unique_ptr<BusBits>> buses_;
   std::vector<Bit> bits_;
   size_t missing_ = 0;
